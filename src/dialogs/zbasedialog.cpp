@@ -1,0 +1,192 @@
+#include "zbasedialog.h"
+
+#include "widgetlength_p.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+
+namespace ZIRVOUI {
+
+namespace {
+
+// Beyond this a shadow is wider than any widget, and coordinates would soon leave int's range.
+constexpr int MaxShadowWidth = 1 << 29;
+
+struct CornerRadii
+{
+    int topLeft;
+    int topRight;
+    int bottomRight;
+    int bottomLeft;
+};
+
+CornerRadii cornerRadii(ZBaseDialog::RadiusType type, int r)
+{
+    switch (type) {
+    case ZBaseDialog::TopLeftRadius:
+        return {r, 0, 0, 0};
+    case ZBaseDialog::TopRightRadius:
+        return {0, r, 0, 0};
+    case ZBaseDialog::BottomLeftRadius:
+        return {0, 0, 0, r};
+    case ZBaseDialog::BottomRightRadius:
+        return {0, 0, r, 0};
+    case ZBaseDialog::TopRadius:
+        return {r, r, 0, 0};
+    case ZBaseDialog::BottomRadius:
+        return {0, 0, r, r};
+    case ZBaseDialog::LeftRadius:
+        return {r, 0, 0, r};
+    case ZBaseDialog::RightRadius:
+        return {0, r, r, 0};
+    case ZBaseDialog::AllRadius:
+        return {r, r, r, r};
+    case ZBaseDialog::NoRadius:
+        break;
+    }
+    return {0, 0, 0, 0};
+}
+
+QPainterPath roundedOutline(const QRect &rect, const CornerRadii &radii)
+{
+    const double left = rect.x();
+    const double top = rect.y();
+    const double right = rect.right() + 1.0;
+    const double bottom = rect.bottom() + 1.0;
+
+    QPainterPath path({left, top + radii.topLeft});
+    path.quadTo({left, top}, {left + radii.topLeft, top});
+    path.lineTo(right - radii.topRight, top);
+    path.quadTo({right, top}, {right, top + radii.topRight});
+    path.lineTo(right, bottom - radii.bottomRight);
+    path.quadTo({right, bottom}, {right - radii.bottomRight, bottom});
+    path.lineTo(left + radii.bottomLeft, bottom);
+    path.quadTo({left, bottom}, {left, bottom - radii.bottomLeft});
+    path.lineTo(left, top + radii.topLeft);
+    return path;
+}
+
+} // namespace
+
+ZBaseDialog::ZBaseDialog(QWidget *parent)
+    : QDialog(parent)
+{
+    setWindowFlags(Qt::FramelessWindowHint);
+    setAttribute(Qt::WA_TranslucentBackground);
+
+    // These flags make it a child widget, which would appear as soon as its parent does.
+    if (parent)
+        hide();
+}
+
+ZBaseDialog::~ZBaseDialog() = default;
+
+void ZBaseDialog::setShadowEffectWidth(const int &width)
+{
+    m_shadowWidth = width;
+}
+
+void ZBaseDialog::setShadowEffectColor(const QColor &color)
+{
+    m_shadowColor = color;
+}
+
+void ZBaseDialog::setBackGroundColor(const QColor &color)
+{
+    m_backgroundColor = color;
+}
+
+void ZBaseDialog::setRadius(const int &radius)
+{
+    m_radius = radius;
+}
+
+void ZBaseDialog::setRadiusType(const RadiusType &type)
+{
+    m_radiusType = type;
+}
+
+void ZBaseDialog::setLayout(QLayout *layout)
+{
+    if (!layout || QWidget::layout())
+        return;
+
+    auto *frame = new QHBoxLayout;
+    frame->setContentsMargins(m_shadowWidth, m_shadowWidth, m_shadowWidth, m_shadowWidth);
+    frame->addLayout(layout);
+    QWidget::setLayout(frame);
+}
+
+void ZBaseDialog::setFixedSize(const QSize &size)
+{
+    setFixedSize(size.width(), size.height());
+}
+
+void ZBaseDialog::setFixedSize(int width, int height)
+{
+    QWidget::setFixedSize(withShadow(width), withShadow(height));
+}
+
+void ZBaseDialog::setFixedWidth(int width)
+{
+    QWidget::setFixedWidth(withShadow(width));
+}
+
+void ZBaseDialog::setFixedHeight(int height)
+{
+    QWidget::setFixedHeight(withShadow(height));
+}
+
+QPainterPath ZBaseDialog::getDrawPath(const QRect &rect, const RadiusType &type)
+{
+    return roundedOutline(rect, cornerRadii(type, m_radius));
+}
+
+void ZBaseDialog::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    drawShadow(painter);
+    drawBody(painter);
+}
+
+int ZBaseDialog::withShadow(int length) const
+{
+    return widgetLength(length + 2 * qint64(m_shadowWidth));
+}
+
+void ZBaseDialog::drawShadow(QPainter &painter)
+{
+    const int width = qMin(m_shadowWidth, MaxShadowWidth);
+    const int fade = m_shadowWidth > 0 ? m_shadowColor.alpha() / m_shadowWidth : 0;
+    QColor color = m_shadowColor;
+    painter.setRenderHint(QPainter::Antialiasing);
+
+    const auto drawOutlines = [&](int innermost, int outermost) {
+        for (int inset = qMin(innermost, width); inset >= outermost; --inset) {
+            color.setAlpha(m_shadowColor.alpha() - fade * (m_shadowWidth - inset));
+            painter.setPen(color);
+            painter.drawPath(getDrawPath(insetRect(inset), m_radiusType));
+        }
+    };
+
+    // Further in than the widget is long, the mirrored outlines lie outside it.  Only the arcs of
+    // a negative radius come back, and reach it around a quarter of that radius.
+    const int reach = qMax(this->width(), height()) + 1;
+    const int arcs = qMax(0, -(m_radius / 4) - 1);
+    drawOutlines(arcs + reach, qMax(arcs, reach + 1));
+    drawOutlines(reach, 0);
+}
+
+void ZBaseDialog::drawBody(QPainter &painter)
+{
+    const int inset = qBound(-MaxShadowWidth, m_shadowWidth, MaxShadowWidth);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.fillPath(getDrawPath(insetRect(inset), m_radiusType), m_backgroundColor);
+}
+
+QRect ZBaseDialog::insetRect(int by) const
+{
+    return rect().adjusted(by, by, -by, -by);
+}
+
+} // namespace ZIRVOUI

@@ -1,0 +1,3 @@
+#include "zcommonwidgets.h"
+
+Zcommonwidgets::Zcommonwidgets() = default;
