@@ -76,7 +76,7 @@ protected:
 
 private:
     void initAnimation();
-    void fitPixmap();
+    void fitPixmap(double ratio);
     void drawPixmap(QPainter &painter) const;
 
     SvgFile *m_svg;

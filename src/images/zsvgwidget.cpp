@@ -3,6 +3,7 @@
 #include "svgfile_p.h"
 
 #include <QIcon>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPropertyAnimation>
 
@@ -131,14 +132,14 @@ void ZSvgWidget::paintEvent(QPaintEvent *)
         m_svg->read(m_svgPath);
         m_svg->render(&painter, rect());
     } else if (!m_pixmap.isNull()) {
-        fitPixmap();
+        // Not the painter's device, which stays the widget when that is rendered elsewhere.
+        fitPixmap(painter.paintEngine()->paintDevice()->devicePixelRatioF());
         drawPixmap(painter);
     }
 }
 
-void ZSvgWidget::fitPixmap()
+void ZSvgWidget::fitPixmap(double ratio)
 {
-    const double ratio = devicePixelRatioF();
     m_pixmap = m_pixmap.scaled(size() * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     m_pixmap.setDevicePixelRatio(ratio);
 }
