@@ -1,0 +1,27 @@
+#include "paintcounter.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QWidget>
+
+PaintCounter::PaintCounter(QWidget &widget)
+{
+    widget.installEventFilter(this);
+    QCoreApplication::processEvents();
+    m_count = 0;
+}
+
+int PaintCounter::take()
+{
+    QCoreApplication::processEvents();
+    const int count = m_count;
+    m_count = 0;
+    return count;
+}
+
+bool PaintCounter::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Paint)
+        ++m_count;
+    return QObject::eventFilter(watched, event);
+}

@@ -1,0 +1,23 @@
+#ifndef PAINTCOUNTER_H
+#define PAINTCOUNTER_H
+
+#include <QObject>
+
+class QWidget;
+
+/*! Counts the paints that a shown widget gets from the event loop. */
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget &widget);
+
+    /*! The paints since the last call, once everything pending is done. */
+    int take();
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    int m_count = 0;
+};
+
+#endif
