@@ -94,7 +94,7 @@ protected:
 private:
     int withShadow(int length) const;
     QRect insetRect(int by) const;
-    void drawShadow(QPainter &painter);
+    void drawShadow(QPainter &painter, const QRect &exposed);
     void drawBody(QPainter &painter);
 
     int m_shadowWidth = 8;

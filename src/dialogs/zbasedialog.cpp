@@ -3,6 +3,7 @@
 #include "widgetlength_p.h"
 
 #include <QHBoxLayout>
+#include <QPaintEvent>
 #include <QPainter>
 
 namespace ZIRVOUI {
@@ -64,6 +65,17 @@ QPainterPath roundedOutline(const QRect &rect, const CornerRadii &radii)
     path.quadTo({left, bottom}, {left, bottom - radii.bottomLeft});
     path.lineTo(left, top + radii.topLeft);
     return path;
+}
+
+// Whether the outline of rect may have a pixel in exposed: it stays within a radius of rect's
+// edges.
+bool mayTouch(const QRect &rect, int radius, const QRect &exposed)
+{
+    const int margin = int(qMin(qAbs(qint64(radius)), qint64(MaxShadowWidth))) + 2;
+    const QRect edges = rect.normalized();
+    const QRect outer = edges.adjusted(-margin, -margin, margin, margin);
+    const QRect inner = edges.adjusted(margin, margin, -margin, -margin);
+    return outer.intersects(exposed) && !(inner.isValid() && inner.contains(exposed));
 }
 
 } // namespace
@@ -142,10 +154,14 @@ QPainterPath ZBaseDialog::getDrawPath(const QRect &rect, const RadiusType &type)
     return roundedOutline(rect, cornerRadii(type, m_radius));
 }
 
-void ZBaseDialog::paintEvent(QPaintEvent *)
+void ZBaseDialog::paintEvent(QPaintEvent *event)
 {
+    // Qt has no pixels for a window of millions by millions.
     QPainter painter(this);
-    drawShadow(painter);
+    if (!painter.isActive())
+        return;
+
+    drawShadow(painter, event->rect());
     drawBody(painter);
 }
 
@@ -154,7 +170,7 @@ int ZBaseDialog::withShadow(int length) const
     return widgetLength(length + 2 * qint64(m_shadowWidth));
 }
 
-void ZBaseDialog::drawShadow(QPainter &painter)
+void ZBaseDialog::drawShadow(QPainter &painter, const QRect &exposed)
 {
     const int width = qMin(m_shadowWidth, MaxShadowWidth);
     const int fade = m_shadowWidth > 0 ? m_shadowColor.alpha() / m_shadowWidth : 0;
@@ -163,14 +179,17 @@ void ZBaseDialog::drawShadow(QPainter &painter)
 
     const auto drawOutlines = [&](int innermost, int outermost) {
         for (int inset = qMin(innermost, width); inset >= outermost; --inset) {
+            const QRect outlined = insetRect(inset);
+            if (!mayTouch(outlined, m_radius, exposed))
+                continue;
             color.setAlpha(m_shadowColor.alpha() - fade * (m_shadowWidth - inset));
             painter.setPen(color);
-            painter.drawPath(getDrawPath(insetRect(inset), m_radiusType));
+            painter.drawPath(getDrawPath(outlined, m_radiusType));
         }
     };
 
-    // Further in than the widget is long, the mirrored outlines lie outside it.  Only the arcs of
-    // a negative radius come back, and reach it around a quarter of that radius.
+    // Further in than the widget is long, the outlines are mirrored and lie outside it.  Only the
+    // arcs of a negative radius come back, and reach it around a quarter of that radius.
     const int reach = qMax(this->width(), height()) + 1;
     const int arcs = qMax(0, -(m_radius / 4) - 1);
     drawOutlines(arcs + reach, qMax(arcs, reach + 1));

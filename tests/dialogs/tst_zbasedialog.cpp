@@ -69,6 +69,8 @@ private Q_SLOTS:
 
     void paints_data();
     void paints();
+    void paintsInParts_data();
+    void paintsInParts();
     void neverFreezesInAPaint();
     void keepsItsContentOutOfTheShadow();
     void keepsItsFirstLayout();
@@ -120,6 +122,32 @@ void TestZBaseDialog::paints()
     }
 }
 
+void TestZBaseDialog::paintsInParts_data()
+{
+    QTest::addColumn<int>("radius");
+    QTest::addColumn<int>("shadow");
+    QTest::newRow("as usual") << 20 << 8;
+    QTest::newRow("round as can be") << 60 << 15;
+    QTest::newRow("corners outside") << -9 << 12;
+    QTest::newRow("mirrored outlines") << 10 << 70;
+}
+
+void TestZBaseDialog::paintsInParts()
+{
+    QFETCH(int, radius);
+    QFETCH(int, shadow);
+    ZBaseDialog dialog;
+    dialog.setRadius(radius);
+    dialog.setShadowEffectWidth(shadow);
+    dialog.resize(131, 97);
+    QImage parts = blankPicture(dialog.size());
+    for (int x = 0; x < dialog.width(); x += 10) {
+        for (int y = 0; y < dialog.height(); y += 10)
+            dialog.render(&parts, {x, y}, QRect(x, y, 10, 10), QWidget::DrawChildren);
+    }
+    COMPARE_PICTURES(parts, snapshot(dialog));
+}
+
 void TestZBaseDialog::neverFreezesInAPaint()
 {
     constexpr int Huge = std::numeric_limits<int>::max();
@@ -135,6 +163,16 @@ void TestZBaseDialog::neverFreezesInAPaint()
             QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
         }
     }
+
+    // As wide as the shadow itself asks for.
+    QWidget window;
+    auto *wide = new ZBaseDialog(&window);
+    wide->setShadowEffectWidth(1000000);
+    wide->setFixedSize(300, 200);
+    wide->show();
+    timer.start();
+    snapshot(window);
+    QVERIFY(timer.elapsed() < 3000);
 }
 
 void TestZBaseDialog::keepsItsContentOutOfTheShadow()
