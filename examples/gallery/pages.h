@@ -1,0 +1,11 @@
+#ifndef PAGES_H
+#define PAGES_H
+
+class Page;
+
+// Each fills its page with the widgets of the source folder it is named after.
+void fillLabelsPage(Page *page);
+void fillImagesPage(Page *page);
+void fillDialogsPage(Page *page);
+
+#endif
