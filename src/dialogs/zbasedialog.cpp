@@ -1,5 +1,6 @@
 #include "zbasedialog.h"
 
+#include "roundedoutline_p.h"
 #include "widgetlength_p.h"
 
 #include <QHBoxLayout>
@@ -12,14 +13,6 @@ namespace {
 
 // Beyond this a shadow is wider than any widget, and coordinates would soon leave int's range.
 constexpr int MaxShadowWidth = 1 << 29;
-
-struct CornerRadii
-{
-    int topLeft;
-    int topRight;
-    int bottomRight;
-    int bottomLeft;
-};
 
 CornerRadii cornerRadii(ZBaseDialog::RadiusType type, int r)
 {
@@ -46,25 +39,6 @@ CornerRadii cornerRadii(ZBaseDialog::RadiusType type, int r)
         break;
     }
     return {0, 0, 0, 0};
-}
-
-QPainterPath roundedOutline(const QRect &rect, const CornerRadii &radii)
-{
-    const double left = rect.x();
-    const double top = rect.y();
-    const double right = rect.right() + 1.0;
-    const double bottom = rect.bottom() + 1.0;
-
-    QPainterPath path({left, top + radii.topLeft});
-    path.quadTo({left, top}, {left + radii.topLeft, top});
-    path.lineTo(right - radii.topRight, top);
-    path.quadTo({right, top}, {right, top + radii.topRight});
-    path.lineTo(right, bottom - radii.bottomRight);
-    path.quadTo({right, bottom}, {right - radii.bottomRight, bottom});
-    path.lineTo(left + radii.bottomLeft, bottom);
-    path.quadTo({left, bottom}, {left, bottom - radii.bottomLeft});
-    path.lineTo(left, top + radii.topLeft);
-    return path;
 }
 
 // Whether the outline of rect may have a pixel in exposed: it stays within a radius of rect's

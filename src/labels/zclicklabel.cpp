@@ -1,6 +1,7 @@
 #include "zclicklabel.h"
 
 #include "svgfile_p.h"
+#include "widgetlook_p.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -60,10 +61,7 @@ ZClickLabel::~ZClickLabel() = default;
 
 void ZClickLabel::setTextSize(int size)
 {
-    QFont newFont = font();
-    if (size > 0)
-        newFont.setPixelSize(size);
-    setFont(newFont);
+    setFontPixelSize(*this, size);
 }
 
 void ZClickLabel::setFontFamily(QString family)
@@ -92,9 +90,7 @@ void ZClickLabel::setItalic(bool, int stretch)
 
 void ZClickLabel::setFontColor(QColor color)
 {
-    QPalette newPalette = palette();
-    newPalette.setBrush(QPalette::All, QPalette::WindowText, color);
-    setPalette(newPalette);
+    setPaletteBrush(*this, QPalette::WindowText, color);
 }
 
 void ZClickLabel::setPicture(QPixmap picture)

@@ -1,0 +1,78 @@
+#ifndef ROUNDEDBUTTON_H
+#define ROUNDEDBUTTON_H
+
+#include "zcommonwidgets_export.h"
+
+#include <QPainterPath>
+#include <QPixmap>
+#include <QPushButton>
+
+/*!
+ * A push button with rounded corners: filled with a colour or covered by a picture, with an
+ * optional border and centred text.
+ *
+ * The background is the palette's Window colour and the text its WindowText colour.  A disabled
+ * button is filled with the gray of its colour, one that is down with a lighter colour.  An icon is
+ * not drawn.
+ *
+ * The button's own signals report every mouse button, and come before released() and clicked() of
+ * the base class.  A slot of any signal may delete the button.
+ */
+class ZCOMMONWIDGETS_EXPORT RoundedButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    /*! A transparent button with white text, square corners and no border. */
+    explicit RoundedButton(QWidget *parent = nullptr);
+    ~RoundedButton() override;
+
+    /*! The radius of all corners in pixels, 0 by default, not limited.  Repaints if it is new. */
+    void setRadius(int radius);
+    int radius();
+    /*! Sets the palette's Window brush in all colour groups; its colour alone is drawn. */
+    void setBackgroundColor(const QBrush &brush);
+    /*!
+     * A picture stretched over the button in place of its colour, null for none.  Repaints unless
+     * it is the very picture that the button has.
+     */
+    void setBackgroundImage(const QPixmap &image);
+    /*! The border's width in pixels, and repaints.  0 (the default) and less draw none. */
+    void setBorderWidth(int width);
+    /*! The border's colour, and repaints.  Until it is set the border is black. */
+    void setBorderColor(QColor color);
+    /*! The height of the font in pixels, and repaints; 0 and less leave the size as it is. */
+    void setFontSize(int size);
+    /*! Sets the palette's WindowText brush in all colour groups. */
+    void setFontColor(QColor color);
+
+    /*!
+     * The outline of \a rect, along its outer pixel edges, with corners of the button's radius:
+     * each a quadratic curve whose control point is the corner.
+     */
+    QPainterPath getDrawPath(const QRect &rect);
+
+Q_SIGNALS:
+    void signal_mousePressed();
+    void signal_mouseReleased();
+    /*! Follows signal_mouseReleased() if the pointer never left the button since the press. */
+    void signal_clicked();
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void drawBackground(QPainter &painter, const QPainterPath &outline);
+    void drawBorder(QPainter &painter);
+
+    int m_radius = 0;
+    QPixmap m_backgroundImage;
+    int m_borderWidth = 0;
+    QColor m_borderColor;
+    bool m_movedOut = false;
+};
+
+#endif

@@ -1,0 +1,146 @@
+#include "roundedbutton.h"
+
+#include "buttonstate_p.h"
+#include "roundedoutline_p.h"
+#include "widgetlook_p.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QStyleOptionButton>
+
+namespace {
+
+constexpr int DownLightness = 130; // percent
+
+} // namespace
+
+RoundedButton::RoundedButton(QWidget *parent)
+    : QPushButton(parent)
+{
+    setBackgroundColor(QBrush(Qt::transparent));
+    setFontColor(Qt::white);
+}
+
+RoundedButton::~RoundedButton() = default;
+
+void RoundedButton::setRadius(int radius)
+{
+    if (radius == m_radius)
+        return;
+    m_radius = radius;
+    update();
+}
+
+int RoundedButton::radius()
+{
+    return m_radius;
+}
+
+void RoundedButton::setBackgroundColor(const QBrush &brush)
+{
+    ZIRVOUI::setPaletteBrush(*this, QPalette::Window, brush);
+}
+
+void RoundedButton::setBackgroundImage(const QPixmap &image)
+{
+    if (image.cacheKey() == m_backgroundImage.cacheKey())
+        return;
+    m_backgroundImage = image;
+    update();
+}
+
+void RoundedButton::setBorderWidth(int width)
+{
+    m_borderWidth = width;
+    update();
+}
+
+void RoundedButton::setBorderColor(QColor color)
+{
+    m_borderColor = color;
+    update();
+}
+
+void RoundedButton::setFontSize(int size)
+{
+    ZIRVOUI::setFontPixelSize(*this, size);
+}
+
+void RoundedButton::setFontColor(QColor color)
+{
+    ZIRVOUI::setPaletteBrush(*this, QPalette::WindowText, color);
+}
+
+QPainterPath RoundedButton::getDrawPath(const QRect &rect)
+{
+    return ZIRVOUI::roundedOutline(rect, {m_radius, m_radius, m_radius, m_radius});
+}
+
+void RoundedButton::mousePressEvent(QMouseEvent *event)
+{
+    const QPointer<RoundedButton> guard(this);
+    QAbstractButton::mousePressEvent(event);
+    if (!guard)
+        return;
+
+    m_movedOut = false;
+    Q_EMIT signal_mousePressed();
+    // The base class ignores some presses, and Qt passes those on from the widget to its parent.
+    if (!guard)
+        event->accept();
+}
+
+void RoundedButton::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!rect().contains(event->pos()))
+        m_movedOut = true;
+    QAbstractButton::mouseMoveEvent(event);
+}
+
+void RoundedButton::mouseReleaseEvent(QMouseEvent *event)
+{
+    const QPointer<RoundedButton> guard(this);
+    Q_EMIT signal_mouseReleased();
+    if (guard && !m_movedOut && rect().contains(event->pos()))
+        Q_EMIT signal_clicked();
+    if (guard)
+        QAbstractButton::mouseReleaseEvent(event);
+}
+
+void RoundedButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    const QPainterPath outline = getDrawPath(rect());
+
+    painter.setClipPath(outline);
+    drawBackground(painter, outline);
+    if (m_borderWidth > 0)
+        drawBorder(painter);
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(rect(), Qt::AlignCenter, text());
+}
+
+void RoundedButton::drawBackground(QPainter &painter, const QPainterPath &outline)
+{
+    if (!m_backgroundImage.isNull()) {
+        painter.drawPixmap(QRectF(rect()), m_backgroundImage, QRectF());
+        return;
+    }
+
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const QColor color = palette().color(QPalette::Window);
+    painter.fillPath(outline, ZIRVOUI::stateColor(color, option.state, DownLightness));
+}
+
+void RoundedButton::drawBorder(QPainter &painter)
+{
+    const int inset = m_borderWidth / 2;
+    const QPen pen(m_borderColor, m_borderWidth, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin);
+
+    painter.setClipping(false);
+    painter.strokePath(getDrawPath(rect().adjusted(inset, inset, -inset, -inset)), pen);
+    painter.setClipping(true);
+}

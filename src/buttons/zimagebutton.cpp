@@ -1,0 +1,258 @@
+#include "zimagebutton.h"
+
+#include "buttonstate_p.h"
+#include "svgfile_p.h"
+#include "widgetlength_p.h"
+#include "zsvgwidget.h"
+
+#include <QFile>
+#include <QPaintEngine>
+#include <QPainter>
+#include <QStyleOptionButton>
+#include <QVBoxLayout>
+#include <tuple>
+
+namespace ZIRVOUI {
+
+namespace {
+
+/*! A picture beside the inputs that it was made from; made again when they differ. */
+template <typename... Inputs>
+class KeptPicture
+{
+public:
+    template <typename Make>
+    const QPixmap &of(const std::tuple<Inputs...> &inputs, Make make)
+    {
+        if (!m_isMade || inputs != m_inputs) {
+            m_inputs = inputs;
+            m_picture = make();
+            m_isMade = true;
+        }
+        return m_picture;
+    }
+
+    void forget() { m_isMade = false; }
+
+private:
+    bool m_isMade = false;
+    std::tuple<Inputs...> m_inputs;
+    QPixmap m_picture;
+};
+
+double pixelRatio(const QPainter &painter)
+{
+    return painter.paintEngine()->paintDevice()->devicePixelRatioF();
+}
+
+QByteArray fileBytes(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+class ZImageButtonPrivate
+{
+public:
+    explicit ZImageButtonPrivate(ZImageButton *owner)
+        : q(owner)
+    {
+    }
+
+    void init();
+    void drawBackground(QPainter &painter, const QRectF &rect) const;
+    void drawBackgroundPicture(QPainter &painter, const QRectF &rect);
+    void drawIcon(QPainter &painter, SvgFile &icon);
+
+    QColor fontColor = Qt::white;
+    QColor backgroundColor = Qt::white;
+    QRect textRect;
+    QRect iconRect;
+    int borderWidth = 0; // pixels
+    QColor borderColor = Qt::white;
+    int radius = 0; // pixels
+    QString backgroundPicture;
+    ZImageButton *q;
+
+    KeptPicture<QByteArray> decodedBackground;
+    KeptPicture<QSize, double> renderedIcon;
+};
+
+void ZImageButtonPrivate::init()
+{
+    q->setCheckable(true);
+    textRect = q->rect();
+    iconRect = q->rect();
+    QObject::connect(q, &QAbstractButton::toggled, q, &ZImageButton::setSignVisible);
+}
+
+void ZImageButtonPrivate::drawBackground(QPainter &painter, const QRectF &rect) const
+{
+    if (borderWidth > 0)
+        painter.setPen(QPen(borderColor, borderWidth));
+    else
+        painter.setPen(Qt::NoPen);
+    painter.setBrush(backgroundColor);
+    painter.drawRoundedRect(rect, radius, radius);
+}
+
+void ZImageButtonPrivate::drawBackgroundPicture(QPainter &painter, const QRectF &rect)
+{
+    if (backgroundPicture.isEmpty())
+        return;
+    const QByteArray bytes = fileBytes(backgroundPicture);
+    const QPixmap &picture = decodedBackground.of(bytes, [&] {
+        QPixmap decoded;
+        decoded.loadFromData(bytes);
+        return decoded;
+    });
+    painter.drawPixmap(rect, picture, QRectF());
+}
+
+void ZImageButtonPrivate::drawIcon(QPainter &painter, SvgFile &icon)
+{
+    const double ratio = pixelRatio(painter);
+    const QPixmap &picture = renderedIcon.of({q->size(), ratio}, [&] {
+        QPixmap rendered(q->size() * ratio);
+        rendered.setDevicePixelRatio(ratio);
+        rendered.fill(Qt::transparent);
+        QPainter iconPainter(&rendered);
+        icon.render(&iconPainter, q->rect());
+        return rendered;
+    });
+    painter.drawPixmap(QRectF(iconRect), picture, QRectF());
+}
+
+ZImageButton::ZImageButton(QWidget *parent)
+    : QPushButton(parent)
+    , m_sign(new ZSvgWidget(this))
+    , m_icon(new SvgFile(this))
+    , d(new ZImageButtonPrivate(this))
+{
+    d->init();
+
+    auto *top = new QHBoxLayout;
+    top->setContentsMargins(0, 0, 0, 0);
+    top->addStretch();
+    top->addWidget(m_sign);
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addLayout(top);
+    column->addStretch();
+}
+
+ZImageButton::ZImageButton(const QString &text, QWidget *parent)
+    : ZImageButton(parent)
+{
+    setText(text);
+}
+
+ZImageButton::ZImageButton(const QString &text, const QString &iconPath, const QString &signPath,
+                           QWidget *parent)
+    : ZImageButton(text, parent)
+{
+    loadIcoImage(iconPath);
+    loadSignImage(signPath);
+}
+
+ZImageButton::~ZImageButton() = default;
+
+void ZImageButton::setTextRect(const QRect &rect)
+{
+    d->textRect = rect;
+}
+
+void ZImageButton::setIcoRect(const QRect &rect)
+{
+    d->iconRect = rect;
+}
+
+bool ZImageButton::loadIcoImage(const QString &path)
+{
+    m_icon->read(path);
+    d->renderedIcon.forget();
+    return m_icon->isValid();
+}
+
+void ZImageButton::loadSignImage(const QString &path)
+{
+    m_sign->loadSvgImage(path);
+}
+
+void ZImageButton::setSignVisible(const bool &visible)
+{
+    m_sign->setVisible(visible);
+}
+
+void ZImageButton::setSingSize(int width, int height)
+{
+    m_sign->setFixedSize(widgetLength(width), widgetLength(height));
+}
+
+void ZImageButton::setBgColor(const QColor &color)
+{
+    d->backgroundColor = color;
+}
+
+void ZImageButton::setBorderColor(const QColor &color)
+{
+    d->borderColor = color;
+    update();
+}
+
+void ZImageButton::setBorderWidth(int width)
+{
+    d->borderWidth = width;
+}
+
+void ZImageButton::setRadius(int radius)
+{
+    d->radius = radius;
+}
+
+void ZImageButton::setBgPicture(const QString &path)
+{
+    d->backgroundPicture = path;
+    update();
+}
+
+void ZImageButton::setFontColor(const QColor &color)
+{
+    d->fontColor = color;
+    update();
+}
+
+void ZImageButton::paintBackground()
+{
+    if (!testAttribute(Qt::WA_WState_InPaintEvent))
+        return;
+
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const int inset = d->borderWidth / 2;
+    const QRectF background(inset, inset, width() - 2.0 * inset, height() - 2.0 * inset);
+
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setOpacity(stateOpacity(option.state));
+    d->drawBackground(painter, background);
+    d->drawBackgroundPicture(painter, background);
+}
+
+void ZImageButton::paintEvent(QPaintEvent *)
+{
+    paintBackground();
+
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    QPainter painter(this);
+    painter.setOpacity(stateOpacity(option.state));
+    d->drawIcon(painter, *m_icon);
+    painter.setPen(d->fontColor);
+    painter.drawText(d->textRect, Qt::AlignCenter, option.text);
+}
+
+} // namespace ZIRVOUI
