@@ -63,6 +63,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void nextCheckState() override;
 
 private:
     void drawBackground(QPainter &painter, const QPainterPath &outline);

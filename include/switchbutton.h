@@ -84,6 +84,7 @@ protected:
     void leaveEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void checkStateSet() override;
+    void nextCheckState() override;
 
 private:
     QScopedPointer<SwitchButtonPrivate> d;

@@ -50,6 +50,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void nextCheckState() override;
 
 private:
     void passToParent(QMouseEvent *event) const;

@@ -70,6 +70,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void nextCheckState() override;
 
 private:
     ZSvgWidget *m_sign;

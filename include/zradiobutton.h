@@ -46,6 +46,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void nextCheckState() override;
 
 private:
     QScopedPointer<ZRadioButtonPrivate> d;

@@ -1,6 +1,7 @@
 #include "roundedbutton.h"
 
 #include "buttonstate_p.h"
+#include "flipchecked_p.h"
 #include "roundedoutline_p.h"
 #include "widgetlook_p.h"
 
@@ -106,6 +107,12 @@ void RoundedButton::mouseReleaseEvent(QMouseEvent *event)
         Q_EMIT signal_clicked();
     if (guard)
         QAbstractButton::mouseReleaseEvent(event);
+}
+
+void RoundedButton::nextCheckState()
+{
+    if (ZIRVOUI::flipChecked(*this))
+        Q_EMIT toggled(isChecked());
 }
 
 void RoundedButton::paintEvent(QPaintEvent *)

@@ -1,5 +1,7 @@
 #include "switchbutton.h"
 
+#include "flipchecked_p.h"
+
 #include <QPainter>
 #include <QPointer>
 #include <QPropertyAnimation>
@@ -29,6 +31,7 @@ public:
     int previousState = Qt::Unchecked;
     QString checkText;
     QString noCheckText;
+    bool isFlipping = false; // nextCheckState() is at work
     SwitchButton *q;
 };
 
@@ -72,8 +75,10 @@ void drawDash(QPainter &painter, const QPointF &center, double length)
 
 void drawText(QPainter &painter, const QSize &size, Qt::Alignment side, const QString &text)
 {
-    // What is left open here would come from the widget's font.
-    painter.setFont(QFont(QStringLiteral("Arial"), TextSize, QFont::Normal, false));
+    // Fully resolved: nothing is left for the widget's font to fill in.
+    QFont font(QStringLiteral("Arial"), TextSize);
+    font.resolve(~0u);
+    painter.setFont(font);
     painter.setPen(Qt::white);
     painter.drawText(QRectF(TextMargin, 0, size.width() - 2 * TextMargin, size.height()),
                      int(side | Qt::AlignVCenter), text);
@@ -226,7 +231,8 @@ void SwitchButton::leaveEvent(QEvent *)
 
 void SwitchButton::checkStateSet()
 {
-    if (!signalsBlocked() || d->previousState == Qt::PartiallyChecked
+    const bool blockedByOthers = signalsBlocked() && !d->isFlipping;
+    if (!blockedByOthers || d->previousState == Qt::PartiallyChecked
         || d->checkState == Qt::PartiallyChecked)
         return;
 
@@ -239,6 +245,15 @@ void SwitchButton::checkStateSet()
         d->slideKnob(0, end);
     else
         d->slideKnob(end, 0);
+}
+
+void SwitchButton::nextCheckState()
+{
+    d->isFlipping = true;
+    const bool flipped = flipChecked(*this);
+    d->isFlipping = false;
+    if (flipped)
+        Q_EMIT toggled(isChecked());
 }
 
 void SwitchButton::paintEvent(QPaintEvent *)

@@ -1,6 +1,7 @@
 #include "zbutton.h"
 
 #include "buttonstate_p.h"
+#include "flipchecked_p.h"
 #include "widgetlook_p.h"
 
 #include <QApplication>
@@ -129,6 +130,12 @@ void ZButton::passToParent(QMouseEvent *event) const
 {
     if (m_mouseEventToParent)
         event->ignore();
+}
+
+void ZButton::nextCheckState()
+{
+    if (flipChecked(*this))
+        Q_EMIT toggled(isChecked());
 }
 
 void ZButton::paintEvent(QPaintEvent *)

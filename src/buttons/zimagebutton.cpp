@@ -1,6 +1,7 @@
 #include "zimagebutton.h"
 
 #include "buttonstate_p.h"
+#include "flipchecked_p.h"
 #include "svgfile_p.h"
 #include "widgetlength_p.h"
 #include "zsvgwidget.h"
@@ -240,6 +241,12 @@ void ZImageButton::paintBackground()
     painter.setOpacity(stateOpacity(option.state));
     d->drawBackground(painter, background);
     d->drawBackgroundPicture(painter, background);
+}
+
+void ZImageButton::nextCheckState()
+{
+    if (flipChecked(*this))
+        Q_EMIT toggled(isChecked());
 }
 
 void ZImageButton::paintEvent(QPaintEvent *)

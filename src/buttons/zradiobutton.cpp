@@ -1,5 +1,7 @@
 #include "zradiobutton.h"
 
+#include "flipchecked_p.h"
+
 #include <QPainter>
 #include <QStyleOptionButton>
 
@@ -95,6 +97,12 @@ void ZRadioButton::setInternalCircleFillColor(const QColor &color)
 void ZRadioButton::setTextColor(const QColor &color)
 {
     d->textColor = color;
+}
+
+void ZRadioButton::nextCheckState()
+{
+    if (flipChecked(*this))
+        Q_EMIT toggled(isChecked());
 }
 
 void ZRadioButton::paintEvent(QPaintEvent *)

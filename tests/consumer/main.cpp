@@ -1,8 +1,7 @@
-#include <ZToastDialog>
-#include <zcommonwidgets.h>
-
 #include <QApplication>
 #include <QSvgRenderer>
+#include <ZToastDialog>
+#include <zcommonwidgets.h>
 
 int main(int argc, char *argv[])
 {

@@ -142,8 +142,8 @@ void TestZClickLabel::paints()
     if (look.svg)
         label.setBgPicturePath(svg.path());
 
-    const QHash<int, int> legOfHeight = {{25, 10}, {48, 19}, {10, 4}};
-    for (const QSize size : {QSize(91, 25), QSize(80, 48), QSize(64, 10)}) {
+    const QHash<int, int> legOfHeight = {{25, 10}, {44, 17}, {10, 4}};
+    for (const QSize size : {QSize(91, 25), QSize(80, 44), QSize(64, 10)}) {
         label.resize(size);
         const int leg = legOfHeight.value(size.height());
         COMPARE_PICTURES(snapshot(label), reference(size, [&](QPainter &painter) {

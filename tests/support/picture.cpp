@@ -22,6 +22,10 @@ QImage blankPicture(const QSize &size, int ratio)
 {
     QImage picture(size * ratio, QImage::Format_ARGB32_Premultiplied);
     picture.setDevicePixelRatio(ratio);
+    // Text of a point size is to be as large as in widgets.
+    const int dotsPerMeter = qRound(QWidget().logicalDpiX() / 0.0254);
+    picture.setDotsPerMeterX(dotsPerMeter);
+    picture.setDotsPerMeterY(dotsPerMeter);
     picture.fill(Qt::transparent);
     return picture;
 }
