@@ -52,7 +52,7 @@ void TestRoundedButton::paints_data()
     QTest::newRow("disabled") << 10 << 3 << false << false << false << gray;
     QTest::newRow("down") << 0 << 4 << false << true << true << color.lighter(130);
     QTest::newRow("disabled while down") << 0 << 0 << false << false << true << color.lighter(130);
-    QTest::newRow("picture") << 12 << 5 << true << true << false << color;
+    QTest::newRow("picture") << 20 << 5 << true << true << false << color;
     QTest::newRow("picture, disabled") << 40 << 0 << true << false << false << color;
 }
 
@@ -69,8 +69,8 @@ void TestRoundedButton::paints()
     QPainter(&pixmap).fillRect(1, 1, 2, 2, Qt::yellow);
 
     RoundedButton button;
-    button.setText(QStringLiteral("A && B"));
-    button.setFontSize(13);
+    button.setText(QStringLiteral("MM&&M"));
+    button.setFontSize(44); // reaches beyond the corners
     button.setRadius(radius);
     button.setBackgroundColor(QColor(200, 40, 90, 160));
     button.setBorderWidth(border);
@@ -103,7 +103,7 @@ void TestRoundedButton::paints()
                 }
                 painter.setFont(button.font());
                 painter.setPen(Qt::white);
-                painter.drawText(all, Qt::AlignCenter, QStringLiteral("A && B"));
+                painter.drawText(all, Qt::AlignCenter, QStringLiteral("MM&&M"));
             }));
     }
 }

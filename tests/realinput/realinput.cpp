@@ -1,0 +1,172 @@
+// A window of buttons that prints a line for each of their signals: "<object name> <signal>".
+#include "circlebutton.h"
+#include "imageswitchbutton.h"
+#include "roundedbutton.h"
+#include "switchbutton.h"
+#include "zbutton.h"
+#include "zclicklabel.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPropertyAnimation>
+#include <QWindow>
+#include <cstdio>
+
+using namespace ZIRVOUI;
+
+namespace {
+
+constexpr int LongPressDelay = 300; // ms
+constexpr int LongPressInterval = 100; // ms
+
+void report(const QObject *who, const QString &what)
+{
+    std::puts(qPrintable(who->objectName() + ' ' + what));
+    std::fflush(stdout);
+}
+
+template <typename Sender, typename Signal>
+void reportSignal(Sender *sender, Signal signal, const char *name)
+{
+    QObject::connect(sender, signal, sender, [sender, name] { report(sender, name); });
+}
+
+template <typename Widget>
+Widget *place(Widget *widget, const char *name, const QRect &rect)
+{
+    widget->setObjectName(name);
+    widget->setGeometry(rect);
+    return widget;
+}
+
+/*! Places a button and reports the signals of its base class. */
+template <typename Button>
+Button *placeButton(Button *button, const char *name, const QRect &rect)
+{
+    reportSignal(button, &Button::pressed, "pressed");
+    reportSignal(button, &Button::released, "released");
+    reportSignal(button, &Button::clicked, "clicked");
+    return place(button, name, rect);
+}
+
+/*! Holds one button, which follows the finger up and down. */
+class Scroller : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override
+    {
+        m_lastY = event->y();
+        m_moves = 0;
+        report(this, "press");
+    }
+
+    void mouseMoveEvent(QMouseEvent *event) override
+    {
+        scroll(0, event->y() - m_lastY);
+        m_lastY = event->y();
+        ++m_moves;
+    }
+
+    void mouseReleaseEvent(QMouseEvent *) override
+    {
+        const int y = findChild<ZButton *>()->y();
+        report(this, QString::asprintf("release,moves=%d,y=%d", m_moves, y));
+    }
+
+private:
+    int m_lastY = 0;
+    int m_moves = 0;
+};
+
+class Window : public QWidget
+{
+public:
+    Window();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::MouseButtonDblClick)
+            report(watched, "doubleClick");
+        if (event->type() == QEvent::Expose)
+            report(this, "ready");
+        return QWidget::eventFilter(watched, event);
+    }
+
+    // A press beside all widgets ends a gesture: what came before it has been handled by now.
+    void mousePressEvent(QMouseEvent *event) override
+    {
+        if (childAt(event->pos()))
+            return;
+        const auto buttons = findChildren<QAbstractButton *>();
+        for (const QAbstractButton *button : buttons) {
+            if (button->isDown())
+                report(button, "stays-down");
+        }
+        report(this, "end");
+    }
+};
+
+Window::Window()
+{
+    place(this, "window", {0, 0, 600, 320})->setWindowFlags(Qt::FramelessWindowHint);
+    winId();
+    windowHandle()->installEventFilter(this);
+
+    placeButton(new ZButton(this), "zbutton", {20, 20, 200, 60});
+
+    auto *scroller = place(new Scroller(this), "scroller", {20, 100, 200, 200});
+    placeButton(new ZButton(scroller), "scroller button", {20, 100, 160, 60})
+        ->setMouseEventToParent(true);
+
+    auto *rounded = placeButton(new RoundedButton(this), "rounded", {240, 20, 120, 60});
+    reportSignal(rounded, &RoundedButton::signal_mousePressed, "signal_mousePressed");
+    reportSignal(rounded, &RoundedButton::signal_mouseReleased, "signal_mouseReleased");
+    reportSignal(rounded, &RoundedButton::signal_clicked, "signal_clicked");
+
+    const QString noIcon = QStringLiteral("missing.svg");
+    auto *circle = placeButton(new CircleButton(noIcon, this), "circle", {380, 20, 80, 80});
+    circle->setLongPressDelayMS(LongPressDelay);
+    circle->setLongPressIntervalMS(LongPressInterval);
+    circle->setLongPressRepeat(true);
+    reportSignal(circle, &CircleButton::signal_longPressed, "signal_longPressed");
+
+    auto *image = place(new ImageSwitchButton(noIcon, noIcon, this), "image", {480, 20, 80, 80});
+    connect(image, &ImageSwitchButton::signal_clicked, image,
+            [image](bool open) { report(image, QString::asprintf("signal_clicked=%d", open)); });
+
+    auto *toggle = place(new SwitchButton(this), "switch", {240, 120, 119, 68});
+    connect(toggle, &SwitchButton::toggled, toggle,
+            [toggle](bool checked) { report(toggle, QString::asprintf("toggled=%d", checked)); });
+    connect(toggle, &SwitchButton::stateChanged, toggle, [toggle](int state) {
+        report(toggle, QString::asprintf("stateChanged=%d", state));
+        // A slide that another one cuts short does not finish.
+        const auto *slide = toggle->findChildren<QPropertyAnimation *>().constLast();
+        connect(slide, &QPropertyAnimation::finished, toggle, [toggle] {
+            report(toggle,
+                   QString::asprintf("rest=%d,checked=%d,state=%d", toggle->offset(),
+                                     toggle->isChecked(), toggle->checkState()));
+        });
+    });
+
+    auto *label = place(new ZClickLabel(this), "label", {380, 120, 120, 60});
+    label->installEventFilter(this);
+    reportSignal(label, &ZClickLabel::signal_pressed, "pressed");
+    reportSignal(label, &ZClickLabel::signal_released, "released");
+    reportSignal(label, &ZClickLabel::signal_clicked, "clicked");
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    // Every step of the pointer has to arrive, however slow the machine.
+    QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
+    QApplication app(argc, argv);
+    Window window;
+    window.show();
+    return QApplication::exec();
+}
