@@ -39,7 +39,7 @@ Widget *place(Widget *widget, const char *name, const QRect &rect)
     return widget;
 }
 
-/*! Places a button and reports the signals of its base class. */
+// Reports the signals of the base class as well.
 template <typename Button>
 Button *placeButton(Button *button, const char *name, const QRect &rect)
 {
@@ -89,10 +89,12 @@ public:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (event->type() == QEvent::MouseButtonDblClick)
+        if (watched->isWidgetType() && event->type() == QEvent::MouseButtonDblClick)
             report(watched, "doubleClick");
-        if (event->type() == QEvent::Expose)
+        if (event->type() == QEvent::Expose && windowHandle()->isExposed()) {
+            windowHandle()->removeEventFilter(this);
             report(this, "ready");
+        }
         return QWidget::eventFilter(watched, event);
     }
 
