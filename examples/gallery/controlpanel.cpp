@@ -18,7 +18,7 @@ constexpr int CaptionWidth = 108;
 constexpr int FingerSize = 48;
 constexpr int ValueWidth = 40;
 constexpr int RowGap = 6;
-constexpr int ColumnGap = 24;
+constexpr int ColumnGap = 16;
 constexpr int ButtonGap = 6;
 
 QHBoxLayout *newRow(QWidget *parent)

@@ -62,4 +62,14 @@ void ControlPanel::addChoice(const QString &caption, const Choices<Value> &choic
     addIndexedChoice(caption, names, [=](int index) { apply(choices.at(index).second); });
 }
 
+/*! A callback for a control: calls \a set, which only stores, and repaints. */
+template <typename Widget, typename Setter>
+auto repainting(Widget *widget, Setter set)
+{
+    return [=](const auto &value) {
+        (widget->*set)(value);
+        widget->update();
+    };
+}
+
 #endif

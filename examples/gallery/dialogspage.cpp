@@ -90,19 +90,13 @@ ZBaseDialog *addDialog(Exhibit *exhibit, const QString &caption, ZBaseDialog::Ra
 
 void addBaseDialogControls(ControlPanel *controls, ZBaseDialog *dialog)
 {
-    // The setters only store.
-    const auto shown = [dialog](auto set) {
-        return [dialog, set](const auto &value) {
-            (dialog->*set)(value);
-            dialog->update();
-        };
-    };
-    controls->addNumber("Radius", 0, SpecimenSize.height() / 2, 20, shown(&ZBaseDialog::setRadius));
+    controls->addNumber("Radius", 0, SpecimenSize.height() / 2, 20,
+                        repainting(dialog, &ZBaseDialog::setRadius));
     controls->addColor("Body", {"#3c3c44", "#1f5fae", "#7a2f3a", "#2c6e49", "#dfe3e8"},
-                       shown(&ZBaseDialog::setBackGroundColor));
-    controls->addNumber("Shadow", 0, 16, 8, shown(&ZBaseDialog::setShadowEffectWidth));
+                       repainting(dialog, &ZBaseDialog::setBackGroundColor));
+    controls->addNumber("Shadow", 0, 16, 8, repainting(dialog, &ZBaseDialog::setShadowEffectWidth));
     controls->addColor("Shadow tint", {"#000000", "#4da3ff", "#ebc232", "#5fd38d", "#ff6b6b"},
-                       shown(&ZBaseDialog::setShadowEffectColor));
+                       repainting(dialog, &ZBaseDialog::setShadowEffectColor));
     controls->addNumber("Width", 80, SpecimenSize.width(), SpecimenSize.width(),
                         [=](int width) { dialog->setFixedWidth(width); });
     controls->addNumber("Height", 40, SpecimenSize.height(), SpecimenSize.height(),
@@ -119,7 +113,7 @@ void addBaseDialogControls(ControlPanel *controls, ZBaseDialog *dialog)
                                                   {"Bottom", ZBaseDialog::BottomRadius},
                                                   {"Left", ZBaseDialog::LeftRadius},
                                                   {"Right", ZBaseDialog::RightRadius}},
-                                                 shown(&ZBaseDialog::setRadiusType));
+                                                 repainting(dialog, &ZBaseDialog::setRadiusType));
 }
 
 void addBaseDialog(Page *page)

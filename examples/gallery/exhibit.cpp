@@ -30,7 +30,7 @@ Exhibit::Exhibit(const QString &name, const QString &description, Width width, Q
     , m_specimensPerRow(width == Half ? SpecimensInHalf : SpecimensInFull)
 {
     m_specimens->setContentsMargins(0, Gap, 0, Gap);
-    m_specimens->setVerticalSpacing(Gap);
+    m_specimens->setVerticalSpacing(2 * Gap);
 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(Padding, Padding - Gap / 2, Padding, Padding);

@@ -22,6 +22,7 @@ constexpr PageEntry Pages[] = {
     {"Labels", fillLabelsPage},
     {"Images", fillImagesPage},
     {"Dialogs", fillDialogsPage},
+    {"Buttons", fillButtonsPage},
 };
 
 constexpr QSize ScreenSize(1280, 800);

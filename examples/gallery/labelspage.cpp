@@ -1,9 +1,8 @@
 #include "controlpanel.h"
 #include "page.h"
 #include "pages.h"
+#include "signalcounts.h"
 #include "zclicklabel.h"
-
-#include <QLabel>
 
 using ZIRVOUI::ZClickLabel;
 
@@ -12,39 +11,6 @@ namespace {
 constexpr QSize LabelSize(220, 104);
 constexpr int LabelRadius = 24;
 constexpr QRgb LabelColor = 0xff3f4650;
-
-/*! Counts the taps on every label that it watches. */
-class TapCounter : public QLabel
-{
-public:
-    TapCounter() { showCounts(); }
-
-    void watch(ZClickLabel *label)
-    {
-        connect(label, &ZClickLabel::signal_pressed, this, [this] { count(m_pressed); });
-        connect(label, &ZClickLabel::signal_released, this, [this] { count(m_released); });
-        connect(label, &ZClickLabel::signal_clicked, this, [this] { count(m_clicked); });
-    }
-
-private:
-    void count(int &counter)
-    {
-        ++counter;
-        showCounts();
-    }
-
-    void showCounts()
-    {
-        setText(QString("%1 pressed,  %2 released,  %3 clicked")
-                    .arg(m_pressed)
-                    .arg(m_released)
-                    .arg(m_clicked));
-    }
-
-    int m_pressed = 0;
-    int m_released = 0;
-    int m_clicked = 0;
-};
 
 ZClickLabel *addLabel(Exhibit *exhibit, const QString &caption, const QString &text = "Tap me")
 {
@@ -151,10 +117,13 @@ void addClickLabel(Page *page)
     addFontControls(exhibit->controls(), live);
     addBodyControls(exhibit->controls(), live);
 
-    auto *counter = new TapCounter;
-    for (ZClickLabel *label : exhibit->findChildren<ZClickLabel *>())
-        counter->watch(label);
-    exhibit->controls()->addRow("Taps on all", counter, 2);
+    auto *counts = new SignalCounts;
+    for (ZClickLabel *label : exhibit->findChildren<ZClickLabel *>()) {
+        counts->watch("pressed", label, &ZClickLabel::signal_pressed);
+        counts->watch("released", label, &ZClickLabel::signal_released);
+        counts->watch("clicked", label, &ZClickLabel::signal_clicked);
+    }
+    exhibit->controls()->addRow("Taps on all", counts, 2);
 }
 
 } // namespace

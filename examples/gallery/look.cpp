@@ -37,10 +37,21 @@ void applyLook(QApplication &app)
 
 void dressControls(QWidget *panel, const QString &objectName)
 {
+    // The name first: a sheet that is set is matched at once.
+    panel->setObjectName(objectName);
     QFile sheet(":/gallery/gallery.qss");
     if (sheet.open(QIODevice::ReadOnly))
         panel->setStyleSheet(QString::fromUtf8(sheet.readAll()));
-    panel->setObjectName(objectName);
+}
+
+QStringList fillColors()
+{
+    return {"#3f4650", "#1f5fae", "#7a2f3a", "#2c6e49"};
+}
+
+QStringList lineColors()
+{
+    return {"white", "#ebc232", "#4da3ff", "#5fd38d"};
 }
 
 QLabel *newText(const QString &text, int pixelSize, QRgb color)

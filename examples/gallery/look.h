@@ -2,6 +2,7 @@
 #define LOOK_H
 
 #include <QColor>
+#include <QStringList>
 
 class QApplication;
 class QLabel;
@@ -17,6 +18,11 @@ constexpr QRgb Ink = 0xfff1f3f5;
 constexpr QRgb QuietInk = 0xffa3acb7;
 constexpr QRgb Accent = 0xff4da3ff;
 
+// Of specimens that show another colour than their own.
+constexpr QRgb Gray = 0xff3f4650;
+constexpr QRgb Blue = 0xff1f5fae;
+constexpr QRgb Yellow = 0xffebc232;
+
 } // namespace Look
 
 /*! Style, palette and font of the whole application. */
@@ -28,6 +34,10 @@ void applyLook(QApplication &app);
  * Only such panels get the sheet, so that the specimens look as they do in any application.
  */
 void dressControls(QWidget *panel, const QString &objectName);
+
+/*! Choices for a specimen's background, and for its text and lines on that. */
+QStringList fillColors();
+QStringList lineColors();
 
 QLabel *newText(const QString &text, int pixelSize, QRgb color);
 

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QScreen>
 
 int main(int argc, char *argv[])
 {
@@ -24,6 +25,11 @@ int main(int argc, char *argv[])
     if (parser.isSet(shots))
         return writeShots(window, parser.value(shots)) ? EXIT_SUCCESS : EXIT_FAILURE;
 
-    window.show();
+    // A frame would push the window beyond the edges of a device's screen.
+    const QSize screen = QGuiApplication::primaryScreen()->size();
+    if (screen.boundedTo(window.size()) == screen)
+        window.showFullScreen();
+    else
+        window.show();
     return app.exec();
 }

@@ -1,13 +1,20 @@
 #include "page.h"
 
+#include "look.h"
+
 #include <QGridLayout>
+#include <QMouseEvent>
 #include <QScrollBar>
-#include <QScroller>
+#include <QScrollerProperties>
 
 namespace {
 
 constexpr int Margin = 16;
 constexpr int Columns = 2;
+
+// Longer than ZButton's own: a button that scrolls the page has to notice the drag before it moves
+// along with the finger.
+constexpr int DragDistance = 24;
 
 } // namespace
 
@@ -26,10 +33,8 @@ Page::Page(const QString &title, QWidget *parent)
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    // Queued: while it is being laid out, a page that fits may seem not to.
-    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &Page::scrollByFinger,
-            Qt::QueuedConnection);
+    dressControls(verticalScrollBar(), "scrollBar");
+    setDragDistance(DragDistance);
 }
 
 QString Page::title() const
@@ -55,11 +60,39 @@ Exhibit *Page::addExhibit(const QString &name, const QString &description, Exhib
     return exhibit;
 }
 
-// A scroller delays every tap, which a page that fits need not suffer.
-void Page::scrollByFinger()
+int Page::fullHeight() const
 {
-    if (verticalScrollBar()->maximum() > 0)
-        QScroller::grabGesture(viewport(), QScroller::LeftMouseButtonGesture);
-    else
-        QScroller::ungrabGesture(viewport());
+    return widget()->minimumSizeHint().height();
+}
+
+void Page::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        scrollByFinger(QScroller::InputPress, event);
+}
+
+void Page::mouseMoveEvent(QMouseEvent *event)
+{
+    scrollByFinger(QScroller::InputMove, event);
+}
+
+void Page::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        scrollByFinger(QScroller::InputRelease, event);
+}
+
+void Page::setDragDistance(int pixels)
+{
+    QScroller *scroller = QScroller::scroller(viewport());
+    QScrollerProperties properties = scroller->scrollerProperties();
+    properties.setScrollMetric(QScrollerProperties::DragStartDistance,
+                               pixels / scroller->pixelPerMeter().y());
+    scroller->setScrollerProperties(properties);
+}
+
+void Page::scrollByFinger(QScroller::Input input, QMouseEvent *event)
+{
+    const auto time = qint64(event->timestamp());
+    QScroller::scroller(viewport())->handleInput(input, event->localPos(), time);
 }

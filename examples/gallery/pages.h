@@ -7,5 +7,6 @@ class Page;
 void fillLabelsPage(Page *page);
 void fillImagesPage(Page *page);
 void fillDialogsPage(Page *page);
+void fillButtonsPage(Page *page);
 
 #endif

@@ -3,6 +3,7 @@
 #include "gallerywindow.h"
 #include "page.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QPixmap>
 #include <QTextStream>
@@ -18,6 +19,13 @@ bool save(const QPixmap &picture, const QDir &directory, const QString &name)
     }
     QTextStream(stdout) << path << '\n';
     return true;
+}
+
+void showWhole(GalleryWindow &window, Page *page, const QSize &screen)
+{
+    window.resize(screen.width(), qMax(screen.height(), page->fullHeight()));
+    // The page removes its scroll bar in a queued call.
+    QCoreApplication::sendPostedEvents(page, QEvent::MetaCall);
 }
 
 bool savePage(GalleryWindow &window, Page *page, const QDir &directory)
@@ -37,14 +45,16 @@ bool savePage(GalleryWindow &window, Page *page, const QDir &directory)
 
 bool writeShots(GalleryWindow &window, const QString &directory)
 {
-    // No event is handled until the end: animations stay where they are, and all runs are alike.
+    // No timer runs until the end: animations stay where they are, and all runs are alike.
     QDir().mkpath(directory);
     window.setAttribute(Qt::WA_DontShowOnScreen);
     window.show();
 
+    const QSize screen = window.size();
     const QList<Page *> pages = window.pages();
     for (int i = 0; i < pages.size(); ++i) {
         window.showPage(i);
+        showWhole(window, pages.at(i), screen);
         if (!savePage(window, pages.at(i), directory))
             return false;
     }
