@@ -265,8 +265,8 @@ void SwitchButton::paintEvent(QPaintEvent *)
 
     const bool off = d->checkState == Qt::Unchecked;
     drawTrack(painter, size(), off ? d->uncheckedBackground : d->checkedBackground);
-    if (qIsFinite(d->margin)) {
-        const QRectF knob = knobRect(*d, size());
+    const QRectF knob = knobRect(*d, size());
+    if (qIsFinite(knob.width())) {
         drawKnob(painter, knob, d->knobColor);
         if (d->checkState == Qt::PartiallyChecked)
             drawDash(painter, knob.center(), d->dashLength);

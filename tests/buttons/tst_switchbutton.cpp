@@ -4,6 +4,7 @@
 
 #include <QButtonGroup>
 #include <QPropertyAnimation>
+#include <limits>
 #include <switchbutton.h>
 
 using ZIRVOUI::SwitchButton;
@@ -56,7 +57,9 @@ void TestSwitchButton::paints_data()
     QTest::newRow("on") << Qt::Checked << true << 8.0;
     QTest::newRow("partially checked") << Qt::PartiallyChecked << true << 3.25;
     QTest::newRow("disabled") << Qt::PartiallyChecked << false << 8.0;
-    QTest::newRow("no knob") << Qt::PartiallyChecked << true << qQNaN();
+    QTest::newRow("no margin") << Qt::PartiallyChecked << true << qQNaN();
+    QTest::newRow("margin without end")
+        << Qt::Checked << true << -std::numeric_limits<double>::max();
 }
 
 void TestSwitchButton::paints()
@@ -90,7 +93,7 @@ void TestSwitchButton::paints()
                 painter.setPen(Qt::NoPen);
                 painter.setBrush(off ? QColor(121, 123, 129, 76) : QColor("#399EFB"));
                 painter.drawRoundedRect(QRectF(QPointF(), size), middle, middle);
-                if (!qIsNaN(margin)) {
+                if (qIsFinite(diameter)) {
                     painter.setBrush(Qt::white);
                     painter.drawEllipse(QPointF(x, middle), diameter / 2, diameter / 2);
                     painter.setPen({QColor("#1F81DD"), 2.0, Qt::SolidLine, Qt::SquareCap});
