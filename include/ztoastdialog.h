@@ -73,7 +73,7 @@ private:
     int m_delay = 3000; // ms
     ZSvgWidget *m_icon;
     ZClickLabel *m_label;
-    bool m_executing = false;
+    bool m_isExecuting = false;
 };
 
 } // namespace ZIRVOUI

@@ -1,10 +1,10 @@
 #include "ztoastdialog.h"
 
+#include "execonce_p.h"
 #include "widgetlength_p.h"
 #include "zclicklabel.h"
 #include "zsvgwidget.h"
 
-#include <QPointer>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -84,17 +84,7 @@ void ZToastDialog::show()
 int ZToastDialog::exec()
 {
     startCloseTimer();
-
-    // QDialog gives a nested call the same answer, and a warning.
-    if (m_executing)
-        return -1;
-
-    const QPointer<ZToastDialog> guard(this);
-    m_executing = true;
-    const int result = ZBaseDialog::exec();
-    if (guard)
-        m_executing = false;
-    return result;
+    return execOnce(*this, m_isExecuting);
 }
 
 void ZToastDialog::startCloseTimer()

@@ -1,0 +1,63 @@
+#ifndef LOADINGWIDGET_H
+#define LOADINGWIDGET_H
+
+#include "zcommonwidgets_export.h"
+
+#include <QBrush>
+#include <QPair>
+#include <QTimer>
+#include <QVector>
+#include <QWidget>
+
+namespace ZIRVOUI {
+
+/*!
+ * An endless spinner: a ring in a conical gradient with a round head, turning clockwise by 2
+ * degrees every 6 milliseconds from its construction on.
+ *
+ * It is as large as the widget allows, in its middle.  A hidden spinner keeps turning without
+ * painting.
+ */
+class ZCOMMONWIDGETS_EXPORT LoadingWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /*! A spinner in RGB (49, 106, 255) whose tail fades to white. */
+    explicit LoadingWidget(QWidget *parent = nullptr);
+    ~LoadingWidget() override;
+
+    /*! Turns the spinner by one step and repaints; the timer does so. */
+    void updateRotate();
+    void start();
+    /*! The spinner stays as it is until start(). */
+    void stop();
+
+    /*! The width of the ring and its head in pixels, 10 by default.  Repaints if it is new. */
+    void setWidth(int width);
+    /*!
+     * Adds colours to the ring, at positions from 0, the head, counter-clockwise to 1, and gives
+     * the head the first of them.  Shows at the next repaint.
+     *
+     * A colour at a position that has one replaces it; other positions are left out.  An empty
+     * list changes nothing.  The colours need to live during the call only.
+     */
+    void addGradientColor(const QVector<QPair<double, const QColor &>> &colors);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void drawRing(QPainter &painter, int radius);
+    void drawHead(QPainter &painter, int radius);
+
+    int m_angle = 0; // degrees
+    QTimer m_timer;
+    QConicalGradient m_gradient = QConicalGradient(0, 0, 0);
+    int m_width = 10; // pixels
+    QColor m_headColor;
+};
+
+} // namespace ZIRVOUI
+
+#endif
