@@ -14,9 +14,9 @@ struct ZButtonPrivate;
  * A push button for touch screens: a rounded rectangle in one colour with centred text, or its
  * icon stretched over the whole button with the text on top.
  *
- * A press that moves more than 20 pixels up or down, or leaves the button, has become a drag: its
- * release neither clicks nor emits released().  A disabled button is drawn at 30 %, one that is
- * down at 60 %.
+ * A press that moves more than 20 pixels up or down, the button moving along or not, or leaves the
+ * button, has become a drag: its release neither clicks nor emits released().  A disabled button is
+ * drawn at 30 %, one that is down at 60 %.
  *
  * The setters of colours and radius only store: set them before the button is shown, or call
  * update().
@@ -58,7 +58,8 @@ private:
     QScopedPointer<ZButtonPrivate> d;
     bool m_mouseEventToParent = false;
     bool m_moved = false;
-    QPoint m_pressPosition;
+    QPoint m_pressPosition; // in the button
+    QPoint m_pressOrigin; // of the button, in its window
 };
 
 } // namespace ZIRVOUI

@@ -98,6 +98,7 @@ void ZButton::mousePressEvent(QMouseEvent *event)
 
     m_moved = false;
     m_pressPosition = event->pos();
+    m_pressOrigin = mapTo(window(), QPoint());
     passToParent(event);
 }
 
@@ -120,8 +121,11 @@ void ZButton::mouseMoveEvent(QMouseEvent *event)
     if (!guard)
         return;
 
-    const int distance = qAbs(event->pos().y() - m_pressPosition.y());
-    if (!rect().contains(event->pos()) || distance > DragDistance)
+    // A parent that follows the finger takes the button along.
+    const int distance = event->pos().y() - m_pressPosition.y();
+    const int takenAlong = mapTo(window(), QPoint()).y() - m_pressOrigin.y();
+    if (!rect().contains(event->pos()) || qAbs(distance) > DragDistance
+        || qAbs(distance + takenAlong) > DragDistance)
         m_moved = true;
     passToParent(event);
 }

@@ -130,6 +130,17 @@ void TestZButton::passesItsEventsToItsParent()
         QCOMPARE(parent.events, passed ? 3 : 0);
     }
     QCOMPARE(clicks.count(), 2);
+
+    // A parent that scrolls takes the button along, so that it stays under the finger.
+    Finger finger(parent);
+    const QPoint start = button.geometry().center();
+    finger.press(start);
+    for (int way = 10; way <= 30; way += 10) {
+        finger.move(start + QPoint(0, way));
+        button.move(0, way);
+    }
+    finger.release(start + QPoint(0, 30));
+    QCOMPARE(clicks.count(), 2);
 }
 
 void TestZButton::mayBeDeletedInItsSlots()
