@@ -2,7 +2,6 @@
 #define TRUNCATED_P_H
 
 #include <QtGlobal>
-
 #include <limits>
 
 namespace ZIRVOUI {

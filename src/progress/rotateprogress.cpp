@@ -1,7 +1,8 @@
 #include "rotateprogress.h"
 
+#include "arcband_p.h"
+
 #include <QPainter>
-#include <QPainterPath>
 #include <QVariantAnimation>
 #include <cmath>
 
@@ -20,11 +21,6 @@ constexpr double BurstGrowth = 0.7; // of the arc, besides its way outwards
 constexpr double FadeDistance = 100.0; // pixels
 constexpr QRgb GlowMiddle = 0xffe4d916;
 constexpr QRgb GlowRim = 0x00e5f738;
-
-QRectF squareAround(const QPointF &center, double radius)
-{
-    return {center.x() - radius, center.y() - radius, 2 * radius, 2 * radius};
-}
 
 } // namespace
 
@@ -122,20 +118,14 @@ void RotateProgress::paintPoint()
 
 void RotateProgress::paintCircle()
 {
-    const QPointF middle = center();
     const int start = ArcTurnsPerDotTurn * m_pointAnimation->currentValue().toInt();
     const int sweep = m_circleAnimation->currentValue().toInt();
-
-    QPainterPath slice(middle);
-    slice.arcTo(squareAround(middle, outerRadius()), start, -sweep);
-    slice.closeSubpath();
-    QPainterPath hole;
-    hole.addEllipse(squareAround(middle, outerRadius() - m_thickness));
 
     QPainter painter(this);
     painter.setOpacity(fadeOpacity());
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(slice.subtracted(hole), m_color);
+    painter.fillPath(arcBand(center(), outerRadius(), outerRadius() - m_thickness, start, sweep),
+                     m_color);
 }
 
 void RotateProgress::paintGold()
