@@ -1,3 +1,5 @@
+#include "dialogspage.h"
+
 #include "controlpanel.h"
 #include "page.h"
 #include "pages.h"
@@ -197,4 +199,5 @@ void fillDialogsPage(Page *page)
 {
     addBaseDialog(page);
     addToastDialog(page);
+    addZLoadingDialog(page);
 }

@@ -51,7 +51,7 @@ ControlPanel *Exhibit::controls() const
     return m_controls;
 }
 
-void Exhibit::addSpecimen(const QString &caption, QWidget *specimen)
+void Exhibit::addSpecimen(const QString &caption, QWidget *specimen, int columns)
 {
     const bool isFirst = m_count == 0;
     QLabel *label = newText(isFirst ? QString::fromUtf8("\u25cf ") + caption : caption, TextSize,
@@ -63,9 +63,10 @@ void Exhibit::addSpecimen(const QString &caption, QWidget *specimen)
     cell->addWidget(label, 0, Qt::AlignHCenter);
 
     const int column = m_count % m_specimensPerRow;
-    m_specimens->addLayout(cell, m_count / m_specimensPerRow, column, Qt::AlignCenter);
-    m_specimens->setColumnStretch(column, 1);
-    ++m_count;
+    m_specimens->addLayout(cell, m_count / m_specimensPerRow, column, 1, columns, Qt::AlignCenter);
+    for (int i = column; i < column + columns; ++i)
+        m_specimens->setColumnStretch(i, 1);
+    m_count += columns;
 }
 
 void Exhibit::setStill(const std::function<void()> &still)

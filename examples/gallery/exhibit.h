@@ -29,8 +29,8 @@ public:
     QString name() const;
     ControlPanel *controls() const;
 
-    /*! The exhibit takes ownership of \a specimen. */
-    void addSpecimen(const QString &caption, QWidget *specimen);
+    /*! The exhibit takes ownership of \a specimen, which gets as many \a columns as it needs. */
+    void addSpecimen(const QString &caption, QWidget *specimen, int columns = 1);
 
     /*! \a still stops what moves among the specimens, at an instant that shows what it does. */
     void setStill(const std::function<void()> &still);

@@ -19,10 +19,8 @@ struct PageEntry
 };
 
 constexpr PageEntry Pages[] = {
-    {"Labels", fillLabelsPage},
-    {"Images", fillImagesPage},
-    {"Dialogs", fillDialogsPage},
-    {"Buttons", fillButtonsPage},
+    {"Labels", fillLabelsPage},   {"Images", fillImagesPage},     {"Dialogs", fillDialogsPage},
+    {"Buttons", fillButtonsPage}, {"Progress", fillProgressPage},
 };
 
 constexpr QSize ScreenSize(1280, 800);

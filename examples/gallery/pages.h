@@ -8,5 +8,6 @@ void fillLabelsPage(Page *page);
 void fillImagesPage(Page *page);
 void fillDialogsPage(Page *page);
 void fillButtonsPage(Page *page);
+void fillProgressPage(Page *page);
 
 #endif
