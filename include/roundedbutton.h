@@ -46,12 +46,6 @@ public:
     /*! Sets the palette's WindowText brush in all colour groups. */
     void setFontColor(QColor color);
 
-    /*!
-     * The outline of \a rect, along its outer pixel edges, with corners of the button's radius:
-     * each a quadratic curve whose control point is the corner.
-     */
-    QPainterPath getDrawPath(const QRect &rect);
-
 Q_SIGNALS:
     void signal_mousePressed();
     void signal_mouseReleased();
@@ -59,6 +53,12 @@ Q_SIGNALS:
     void signal_clicked();
 
 protected:
+    /*!
+     * The outline of \a rect, along its outer pixel edges, with corners of the button's radius:
+     * each a quadratic curve whose control point is the corner.
+     */
+    QPainterPath getDrawPath(const QRect &rect);
+
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;

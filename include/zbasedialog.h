@@ -82,13 +82,13 @@ public:
     void setFixedWidth(int width);
     void setFixedHeight(int height);
 
+protected:
     /*!
      * The outline of \a rect, along its outer pixel edges, with the corners of \a type rounded by
      * the dialog's radius: each a quadratic curve whose control point is the corner.
      */
     QPainterPath getDrawPath(const QRect &rect, const RadiusType &type);
 
-protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -65,10 +65,10 @@ public:
     /*! White by default; repaints. */
     void setFontColor(const QColor &color);
 
+protected:
     /*! Draws the background; outside a paint event it does nothing. */
     void paintBackground();
 
-protected:
     void paintEvent(QPaintEvent *event) override;
     void nextCheckState() override;
 

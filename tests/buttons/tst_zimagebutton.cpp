@@ -162,9 +162,12 @@ void TestZImageButton::mayBeDeletedInItsSlots()
 
 void TestZImageButton::paintsNoBackgroundOutsideAPaint()
 {
-    ZImageButton button;
-    button.show();
-    button.paintBackground();
+    struct Tile : ZImageButton
+    {
+        using ZImageButton::paintBackground;
+    } tile;
+    tile.show();
+    tile.paintBackground();
 }
 
 void TestZImageButton::repaintsForSomeSetters()
