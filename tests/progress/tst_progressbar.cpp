@@ -35,8 +35,8 @@ void TestProgressBar::paints_data()
     QTest::newRow("empty") << 0.0 << 100.0 << 0.0 << 0 << 0 << 0;
     QTest::newRow("half, truncated") << 50.0 << 100.0 << 75.0 << 0 << 6 << 102;
     QTest::newRow("full, padded") << 0.0 << 100.0 << 100.0 << 10 << 20 << 185;
-    QTest::newRow("inverted range") << 10.0 << -10.0 << 5.0 << 0 << 0 << 0;
-    QTest::newRow("empty range") << 7.0 << 7.0 << 7.0 << 0 << 0 << 0;
+    QTest::newRow("inverted range") << 10.0 << -10.0 << 5.0 << 0 << 0 << 51;
+    QTest::newRow("empty range") << 7.0 << 7.0 << 9.0 << 0 << 0 << 0;
     QTest::newRow("no number") << 0.0 << 1.0 << qQNaN() << 0 << 0 << 0;
     QTest::newRow("huge range") << -Huge << Huge << Huge << 0 << 0 << 0;
     QTest::newRow("huge padding") << 0.0 << 2.0 << 1.0 << std::numeric_limits<int>::min() << 0
@@ -56,8 +56,9 @@ void TestProgressBar::paints()
 
     for (const QBrush &brush : {QBrush(Qt::NoBrush), QBrush(gradient)}) {
         ProgressBar bar;
-        bar.setRange(min, max);
+        bar.setRange(std::numeric_limits<double>::lowest(), std::numeric_limits<double>::max());
         bar.setValue(value);
+        bar.setRange(min, max);
         bar.setPadding(padding);
         bar.setRadius(radius);
         bar.setValueBrush(brush);
