@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QTest>
 #include <QWidget>
 
 PaintCounter::PaintCounter(QWidget &widget)
@@ -24,4 +25,14 @@ bool PaintCounter::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::Paint)
         ++m_count;
     return QObject::eventFilter(watched, event);
+}
+
+bool repaints(QWidget &widget, const std::function<void()> &change)
+{
+    widget.show();
+    if (!QTest::qWaitForWindowExposed(&widget))
+        qFatal("The widget does not show");
+    PaintCounter paints(widget);
+    change();
+    return paints.take() > 0;
 }

@@ -2,6 +2,7 @@
 #define PAINTCOUNTER_H
 
 #include <QObject>
+#include <functional>
 
 class QWidget;
 
@@ -19,5 +20,8 @@ public:
 private:
     int m_count = 0;
 };
+
+/*! Whether \a change makes the event loop paint \a widget, which is shown for it. */
+bool repaints(QWidget &widget, const std::function<void()> &change);
 
 #endif

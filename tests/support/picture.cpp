@@ -37,6 +37,12 @@ QImage snapshot(QWidget &widget, int ratio)
     return picture;
 }
 
+QImage snapshot(QWidget &widget, const QSize &size)
+{
+    widget.setFixedSize(size);
+    return snapshot(widget);
+}
+
 QString difference(const QImage &actual, const QImage &expected)
 {
     if (actual.size() != expected.size())

@@ -13,6 +13,9 @@ QImage blankPicture(const QSize &size, int ratio = 1);
 /*! What \a widget draws, alone and on transparent ground. */
 QImage snapshot(QWidget &widget, int ratio = 1);
 
+/*! The same of the widget at another \a size. */
+QImage snapshot(QWidget &widget, const QSize &size);
+
 /*! A picture that \a draw makes with a painter. */
 template <typename Draw>
 QImage reference(const QSize &size, Draw draw, int ratio = 1)
