@@ -1,3 +1,4 @@
+#include "finger.h"
 #include "paintcounter.h"
 #include "picture.h"
 #include "samplefile.h"
@@ -5,77 +6,11 @@
 
 #include <QPainterPath>
 #include <QSvgRenderer>
-#include <QtTest>
+#include <cstring>
+#include <limits>
 #include <zclicklabel.h>
 
 using ZIRVOUI::ZClickLabel;
-
-namespace {
-
-using Signal = void (ZClickLabel::*)();
-
-constexpr int TextSize = 13;
-const QString LongText = QStringLiteral("two words <b>&amp;</b>");
-
-struct Look
-{
-    int radius = 0;
-    QColor ground = Qt::transparent;
-    bool picture = false;
-    bool svg = false;
-    bool wrapped = false;
-    bool corner = false;
-    bool disabled = false;
-};
-
-QPixmap stripes()
-{
-    QPixmap pixmap(4, 3);
-    pixmap.fill(Qt::darkCyan);
-    QPainter(&pixmap).fillRect(0, 1, 4, 1, Qt::magenta);
-    return pixmap;
-}
-
-QPainterPath cornerTriangle(const QSize &size, int leg, int radius)
-{
-    QPainterPath path(QPointF(size.width() - leg, 0));
-    if (radius == 0)
-        path.lineTo(size.width(), 0);
-    else
-        path.cubicTo(size.width() - radius, 0, size.width(), 0, size.width(), radius);
-    path.lineTo(size.width(), leg);
-    path.closeSubpath();
-    return path;
-}
-
-void drawLabel(QPainter &painter, const Look &look, const QSize &size, int leg, const QString &svg)
-{
-    const QRect all(QPoint(0, 0), size);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(look.ground);
-    painter.drawRoundedRect(all, look.radius, look.radius);
-    painter.setBrush(Qt::NoBrush);
-
-    painter.setOpacity(look.disabled ? 0.3 : 1.0);
-    if (look.picture)
-        painter.drawPixmap(all, stripes());
-    if (look.svg)
-        QSvgRenderer(svg).render(&painter, all);
-    QFont font;
-    font.setPixelSize(TextSize);
-    painter.setFont(font);
-    painter.setPen(Qt::red);
-    painter.drawText(all, Qt::AlignRight | Qt::AlignTop | (look.wrapped ? Qt::TextWordWrap : 0),
-                     LongText);
-    if (look.corner)
-        painter.fillPath(cornerTriangle(size, leg, look.radius), QColor(235, 194, 50));
-}
-
-} // namespace
-
-Q_DECLARE_METATYPE(Look)
-Q_DECLARE_METATYPE(Signal)
 
 class TestZClickLabel : public QObject
 {
@@ -84,215 +19,171 @@ class TestZClickLabel : public QObject
 private Q_SLOTS:
     void initTestCase() { failOnWarnings(); }
 
-    void paints_data();
-    void paints();
-    void showsARewrittenSvg();
-    void drawsNothingForBrokenFiles_data();
-    void drawsNothingForBrokenFiles();
-    void survivesValuesThatFontsRefuse();
-    void repaintsOnlyForNewValues();
-    void hidesForAnEmptyText();
-    void reportsTaps();
-    void mayBeDeletedInItsSlots_data();
-    void mayBeDeletedInItsSlots();
-};
+    void paints_data()
+    {
+        QTest::addColumn<int>("radius");
+        QTest::addColumn<QColor>("ground");
+        const QColor blue(20, 40, 200, 150);
+        QTest::newRow("wrapped") << 0 << QColor(Qt::transparent);
+        QTest::newRow("sharp corner") << 0 << QColor(Qt::transparent);
+        QTest::newRow("round corner") << 9 << QColor(Qt::darkGray);
+        QTest::newRow("corner, picture, SVG") << 7 << blue;
+        QTest::newRow("corner, picture, SVG, disabled") << 7 << blue;
+        QTest::newRow("corner, picture, disabled") << 7 << blue;
+    }
 
-void TestZClickLabel::paints_data()
-{
-    QTest::addColumn<Look>("look");
-    Look all;
-    all.radius = 7;
-    all.ground = QColor(20, 40, 200, 150);
-    all.picture = all.svg = all.corner = true;
+    // The name of a row tells what is part of the look.
+    void paints()
+    {
+        QFETCH(int, radius);
+        QFETCH(QColor, ground);
+        const auto has = [](auto part) { return !!std::strstr(QTest::currentDataTag(), part); };
+        const QString text = QStringLiteral("two words <b>&amp;</b>");
+        const SampleFile svg(QStringLiteral("Icon.SVG"));
+        svg.writeSvg("#4080c0");
+        QPixmap stripes(4, 3);
+        stripes.fill(Qt::darkCyan);
+        QPainter(&stripes).fillRect(0, 1, 4, 1, Qt::magenta);
 
-    QTest::newRow("text alone") << Look();
-    Look look;
-    look.wrapped = true;
-    QTest::newRow("wrapped text") << look;
-    look = {};
-    look.corner = true;
-    QTest::newRow("sharp corner triangle") << look;
-    look.radius = 9;
-    look.ground = Qt::darkGray;
-    QTest::newRow("round corner triangle") << look;
-    QTest::newRow("everything") << all;
-    all.disabled = true;
-    QTest::newRow("everything, disabled") << all;
-    all.svg = false;
-    QTest::newRow("a picture without SVG, disabled") << all;
-}
+        ZClickLabel label(text);
+        label.setAlignment(Qt::AlignRight | Qt::AlignTop);
+        label.setFontColor(Qt::red);
+        label.setTextSize(13);
+        label.setWordWrap(has("wrapped"));
+        label.setRadius(radius);
+        label.setBgColor(ground);
+        label.setRightCornerLabels(has("corner"));
+        label.setDisabled(has("disabled"));
+        label.setPicture(has("picture") ? stripes : QPixmap());
+        if (has("SVG"))
+            label.setBgPicturePath(svg.path());
 
-void TestZClickLabel::paints()
-{
-    QFETCH(Look, look);
-    SampleFile svg(QStringLiteral("Icon.SVG"));
-    svg.writeSvg("#4080c0");
+        for (const QSize size : {QSize(91, 25), QSize(80, 44)}) {
+            const int leg = size.height() == 25 ? 10 : 17;
+            const auto draw = [&](QPainter &painter) {
+                const QRect all(QPoint(), size);
+                QPainterPath round;
+                round.addRoundedRect(all, radius, radius);
+                painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+                painter.fillPath(round, ground);
+                painter.setOpacity(has("disabled") ? 0.3 : 1.0);
+                if (has("picture"))
+                    painter.drawPixmap(all, stripes);
+                if (has("SVG"))
+                    QSvgRenderer(svg.path()).render(&painter, all);
 
-    ZClickLabel label(LongText);
-    label.setAlignment(Qt::AlignRight | Qt::AlignTop);
-    label.setFontColor(Qt::red);
-    label.setTextSize(TextSize);
-    label.setWordWrap(look.wrapped);
-    label.setRadius(look.radius);
-    label.setBgColor(look.ground);
-    label.setRightCornerLabels(look.corner);
-    label.setDisabled(look.disabled);
-    if (look.picture)
-        label.setPicture(stripes());
-    if (look.svg)
+                const int wrapping = has("wrapped") ? Qt::TextWordWrap : 0;
+                painter.setFont(label.font());
+                painter.setPen(Qt::red);
+                painter.drawText(all, Qt::AlignRight | Qt::AlignTop | wrapping, text);
+
+                const QPointF end(size.width(), 0);
+                QPainterPath triangle(end - QPointF(leg, 0));
+                triangle.cubicTo(end - QPointF(radius, 0), end, end + QPointF(0, radius));
+                triangle.lineTo(end + QPointF(0, leg));
+                if (has("corner"))
+                    painter.fillPath(triangle, QColor(235, 194, 50));
+            };
+            COMPARE_PICTURES(snapshot(label, size), reference(size, draw));
+        }
+    }
+
+    void showsARewrittenSvg()
+    {
+        const SampleFile svg(QStringLiteral("icon.svg"));
+        svg.writeSvg("red");
+        ZClickLabel label;
         label.setBgPicturePath(svg.path());
+        label.resize(20, 10);
+        QSignalSpy parses(label.findChild<QSvgRenderer *>(), &QSvgRenderer::repaintNeeded);
+        for (int i = 0; i < 2; ++i)
+            QCOMPARE(snapshot(label).pixelColor(1, 1), QColor(Qt::red));
+        QCOMPARE(parses.count(), 1);
 
-    const QHash<int, int> legOfHeight = {{25, 10}, {44, 17}, {10, 4}};
-    for (const QSize size : {QSize(91, 25), QSize(80, 44), QSize(64, 10)}) {
-        label.resize(size);
-        const int leg = legOfHeight.value(size.height());
-        COMPARE_PICTURES(snapshot(label), reference(size, [&](QPainter &painter) {
-                             drawLabel(painter, look, size, leg, svg.path());
-                         }));
+        svg.writeSvg("blue");
+        QCOMPARE(snapshot(label).pixelColor(1, 1), QColor(Qt::blue));
+        QFile::remove(svg.path());
+        QCOMPARE(snapshot(label).pixelColor(1, 1), QColor(Qt::transparent));
     }
-}
 
-void TestZClickLabel::showsARewrittenSvg()
-{
-    SampleFile svg(QStringLiteral("icon.svg"));
-    svg.writeSvg("red");
-    ZClickLabel label;
-    label.setBgPicturePath(svg.path());
-    label.resize(20, 10);
-    QSignalSpy parses(label.findChild<QSvgRenderer *>(), &QSvgRenderer::repaintNeeded);
-
-    QCOMPARE(snapshot(label).pixelColor(1, 1), QColor(Qt::red));
-    snapshot(label);
-    QCOMPARE(parses.count(), 1);
-
-    svg.writeSvg("blue");
-    QCOMPARE(snapshot(label).pixelColor(1, 1), QColor(Qt::blue));
-    QFile::remove(svg.path());
-    QCOMPARE(snapshot(label).pixelColor(1, 1), QColor(Qt::transparent));
-}
-
-void TestZClickLabel::drawsNothingForBrokenFiles_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("no path") << QString() << QByteArray();
-    QTest::newRow("missing SVG") << "missing.svg" << QByteArray();
-    QTest::newRow("missing bitmap") << "missing.png" << QByteArray();
-    QTest::newRow("SVG that is no XML") << "text.svg" << QByteArray("not an image");
-    QTest::newRow("SVG cut short") << "cut.svg" << QByteArray("<svg><rect width='9");
-    QTest::newRow("other XML") << "page.svg" << QByteArray("<html/>");
-    QTest::newRow("compressed under a plain name") << "gz.svg" << QByteArray("\x1f\x8b\x08 broken");
-    QTest::newRow("bitmap that is none") << "text.bmp" << QByteArray("not an image");
-}
-
-void TestZClickLabel::drawsNothingForBrokenFiles()
-{
-    QFETCH(QString, name);
-    QFETCH(QByteArray, content);
-    SampleFile file(name);
-    if (!content.isEmpty())
-        file.write(content);
-
-    ZClickLabel label;
-    label.setBgPicturePath(name.isEmpty() ? name : file.path());
-    label.resize(30, 20);
-    COMPARE_PICTURES(snapshot(label), blankPicture(label.size()));
-}
-
-void TestZClickLabel::survivesValuesThatFontsRefuse()
-{
-    ZClickLabel label;
-    label.setTextSize(21);
-    label.setFontWeight(75);
-    label.setItalic(false, 150);
-    const QFont before = label.font();
-    QVERIFY(before.italic() && before.bold() && before.pixelSize() == 21);
-
-    for (int value : {-1, 5000, std::numeric_limits<int>::min()}) {
-        label.setTextSize(qMin(value, 0));
-        label.setFontWeight(value);
-        label.setItalic(false, value);
+    void drawsNothingForBrokenFiles()
+    {
+        const QPair<const char *, const char *> files[]
+            = {{"missing.svg", ""},        {"missing.png", ""},  {"bad.svg", "no image"},
+               {"bad.bmp", "-"},           {"a.svg", "<html/>"}, {"cut.svg", "<svg><rect w"},
+               {"gz.svg", "\x1f\x8b\x08 "}};
+        for (const auto &file : files) {
+            const SampleFile sample(QString::fromLatin1(file.first));
+            if (*file.second)
+                sample.write(file.second);
+            ZClickLabel label;
+            label.setBgPicturePath(sample.path());
+            const QString found = difference(snapshot(label, {9, 9}), blankPicture({9, 9}));
+            QVERIFY2(found.isEmpty(), file.first);
+        }
     }
-    QCOMPARE(label.font(), before);
-}
 
-void TestZClickLabel::repaintsOnlyForNewValues()
-{
-    ZClickLabel label(QStringLiteral("text"));
-    label.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&label));
-    PaintCounter paints(label);
-
-    label.setRadius(0);
-    label.setBgColor(Qt::transparent);
-    QCOMPARE(paints.take(), 0);
-
-    const QVector<std::function<void()>> changes = {[&] { label.setRadius(1); },
-                                                    [&] { label.setBgColor(Qt::red); },
-                                                    [&] { label.setPicture({}); },
-                                                    [&] { label.setRightCornerLabels(false); },
-                                                    [&] { label.setTextFlag(label.textFlag()); },
-                                                    [&] { label.setLabelText(label.text()); },
-                                                    [&] { label.setBgPicturePath({}); }};
-    for (const auto &change : changes) {
-        change();
-        QCOMPARE(paints.take(), 1);
+    void survivesValuesThatFontsRefuse()
+    {
+        ZClickLabel label;
+        label.setTextSize(21);
+        label.setFontWeight(75);
+        label.setItalic(false, 150);
+        const QFont before = label.font();
+        QVERIFY(before.italic() && before.bold() && before.pixelSize() == 21);
+        for (int value : {-1, 5000, std::numeric_limits<int>::min()}) {
+            label.setTextSize(qMin(value, 0));
+            label.setFontWeight(value);
+            label.setItalic(false, value);
+        }
+        QCOMPARE(label.font(), before);
     }
-}
 
-void TestZClickLabel::hidesForAnEmptyText()
-{
-    ZClickLabel label(QStringLiteral("text"));
-    label.show();
-    label.setLabelText({});
-    QVERIFY(label.isHidden());
-    label.setLabelText(QStringLiteral("more"));
-    QVERIFY(label.isHidden());
-    QCOMPARE(label.text(), QStringLiteral("more"));
-}
+    void repaintsOnlyForNewValues()
+    {
+        ZClickLabel label(QStringLiteral("text"));
+        QVERIFY(!repaints(label, [&] {
+            label.setRadius(0);
+            label.setBgColor(Qt::transparent);
+        }));
+        QVERIFY(repaints(label, [&] { label.setRadius(1); }));
+        QVERIFY(repaints(label, [&] { label.setBgColor(Qt::red); }));
+        QVERIFY(repaints(label, [&] { label.setPicture({}); }));
+        QVERIFY(repaints(label, [&] { label.setRightCornerLabels(false); }));
+        QVERIFY(repaints(label, [&] { label.setTextFlag(label.textFlag()); }));
+        QVERIFY(repaints(label, [&] { label.setLabelText(label.text()); }));
+        QVERIFY(repaints(label, [&] { label.setBgPicturePath({}); }));
 
-void TestZClickLabel::reportsTaps()
-{
-    ZClickLabel label;
-    QStringList seen;
-    connect(&label, &ZClickLabel::signal_pressed, [&] { seen << "pressed"; });
-    connect(&label, &ZClickLabel::signal_released, [&] { seen << "released"; });
-    connect(&label, &ZClickLabel::signal_clicked, [&] { seen << "clicked"; });
+        label.setLabelText({});
+        label.setLabelText(QStringLiteral("more"));
+        QVERIFY(label.isHidden());
+        QCOMPARE(label.text(), QStringLiteral("more"));
+    }
 
-    QTest::mouseClick(&label, Qt::RightButton);
-    QCOMPARE(seen, QStringList());
+    void reportsTaps()
+    {
+        ZClickLabel label;
+        QStringList seen;
+        connect(&label, &ZClickLabel::signal_pressed, [&] { seen << "pressed"; });
+        connect(&label, &ZClickLabel::signal_released, [&] { seen << "released"; });
+        connect(&label, &ZClickLabel::signal_clicked, [&] { seen << "clicked"; });
 
-    QTest::mousePress(&label, Qt::LeftButton);
-    QTest::mouseRelease(&label, Qt::LeftButton, {}, {-50, -50});
-    QCOMPARE(seen, QStringList({"pressed", "released", "clicked"}));
+        QTest::mouseClick(&label, Qt::RightButton);
+        QCOMPARE(seen, QStringList());
+        QTest::mousePress(&label, Qt::LeftButton);
+        QTest::mouseRelease(&label, Qt::LeftButton, {}, {-50, -50});
+        QCOMPARE(seen, QStringList({"pressed", "released", "clicked"}));
+        QTest::mouseDClick(&label, Qt::LeftButton); // the second press alone
+        QCOMPARE(seen.mid(3), QStringList("pressed"));
+    }
 
-    seen.clear();
-    QTest::mouseDClick(&label, Qt::LeftButton); // the second press alone
-    QCOMPARE(seen, QStringList("pressed"));
-}
-
-void TestZClickLabel::mayBeDeletedInItsSlots_data()
-{
-    QTest::addColumn<Signal>("signal");
-    QTest::newRow("pressed") << &ZClickLabel::signal_pressed;
-    QTest::newRow("released") << &ZClickLabel::signal_released;
-    QTest::newRow("clicked") << &ZClickLabel::signal_clicked;
-}
-
-void TestZClickLabel::mayBeDeletedInItsSlots()
-{
-    QFETCH(Signal, signal);
-    QWidget window;
-    QPointer<ZClickLabel> label = new ZClickLabel(&window);
-    label->resize(50, 50);
-    connect(label.data(), signal, [&] { delete label.data(); });
-
-    // Through the window, so that Qt passes on what the label leaves.
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, {20, 20});
-    QVERIFY(!label);
-}
+    void mayBeDeletedInItsSlots()
+    {
+        QVERIFY(mayBeDeletedIn(&ZClickLabel::signal_pressed, new ZClickLabel));
+        QVERIFY(mayBeDeletedIn(&ZClickLabel::signal_released, new ZClickLabel));
+        QVERIFY(mayBeDeletedIn(&ZClickLabel::signal_clicked, new ZClickLabel));
+    }
+};
 
 QTEST_MAIN(TestZClickLabel)
 #include "tst_zclicklabel.moc"

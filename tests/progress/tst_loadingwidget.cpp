@@ -1,10 +1,6 @@
-#include "paintcounter.h"
-#include "picture.h"
-#include "warnings.h"
+#include "progresstest.h"
 
 #include <QPainterPath>
-#include <QtTest>
-#include <limits>
 #include <loadingwidget.h>
 
 using ZIRVOUI::LoadingWidget;
@@ -16,129 +12,79 @@ class TestLoadingWidget : public QObject
 private Q_SLOTS:
     void initTestCase() { failOnWarnings(); }
 
-    void paints_data();
-    void paints();
-    void addsColors();
-    void returnsForEveryWidth();
-    void turnsUntilStopped();
-    void repaintsForNewValuesOnly();
+    void paints()
+    {
+        const QMap<int, int> widthsAfterSteps = {{20, 7}, {30, 45}, {179, 10}, {181, 10}};
+        QConicalGradient gradient(0, 0, 0);
+        gradient.setStops({{0.0, "#316AFF"}, {1.0, Qt::white}});
+        LoadingWidget spinner;
+        spinner.stop();
+        for (int steps = 1; steps <= 181; ++steps) {
+            spinner.updateRotate();
+            if (!widthsAfterSteps.contains(steps))
+                continue;
+            const int width = widthsAfterSteps.value(steps);
+            spinner.setWidth(width);
+            comparePictures(
+                spinner, {{90, 90}, {201, 101}}, [&](QPainter &painter, const QSize &size) {
+                    const int radius = size.height() / 2;
+                    const int half = width / 2;
+                    const int diameter = 2 * (radius - half);
+                    painter.translate(size.width() / 2, radius);
+                    painter.rotate(2 * steps % 360);
+                    painter.setPen(
+                        {gradient, double(width), Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin});
+                    painter.drawArc(half - radius, half - radius, diameter, diameter, 0, 5760);
+                    QPainterPath head(QPointF(radius - width, 0));
+                    head.arcTo(radius - width, -half, width, width, 0, 360);
+                    painter.fillPath(head, QColor("#316AFF"));
+                });
+        }
+    }
+
+    void takesEveryValue()
+    {
+        LoadingWidget spinner;
+        spinner.stop();
+        const auto greenAt = [&](int x, int y) {
+            return snapshot(spinner, QSize(90, 90)).pixelColor(x, y).green();
+        };
+        spinner.addGradientColor({});
+        spinner.addGradientColor({{0.5, QColor(Qt::red)}, {7.0, Qt::green}, {qQNaN(), Qt::green}});
+        QCOMPARE(greenAt(85, 45), 0); // the head
+        QVERIFY(greenAt(5, 45) < 5); // half way round
+        QVERIFY(qAbs(greenAt(45, 85) - 127) < 5); // three quarters, on the way to white
+        spinner.addGradientColor({{0.5, QColor(Qt::cyan)}});
+        QVERIFY(greenAt(5, 45) > 250);
+
+        QElapsedTimer timer;
+        timer.start();
+        for (int width : {0, -1, 100, 40000, INT_MAX, INT_MIN}) {
+            spinner.setWidth(width);
+            snapshot(spinner, QSize(90, 90));
+        }
+        QVERIFY(timer.elapsed() < 1000);
+    }
+
+    void turnsUntilStopped()
+    {
+        LoadingWidget spinner;
+        const auto turns = [&] {
+            const QImage before = snapshot(spinner, QSize(90, 90));
+            QTest::qWait(60);
+            return snapshot(spinner) != before;
+        };
+        QVERIFY(turns());
+        spinner.stop();
+        QVERIFY(!turns());
+        QVERIFY(!repaints(spinner, [&] { spinner.setWidth(10); }));
+        QVERIFY(!repaints(spinner, [&] { spinner.addGradientColor({{0.5, QColor(Qt::red)}}); }));
+        QVERIFY(repaints(spinner, [&] { spinner.setWidth(12); }));
+        spinner.start();
+        QVERIFY(paintsOnlyWhenShown(spinner));
+        QVERIFY(turns());
+    }
 };
-
-void TestLoadingWidget::paints_data()
-{
-    QTest::addColumn<int>("steps");
-    QTest::addColumn<int>("angle");
-    QTest::addColumn<int>("width");
-    QTest::newRow("start") << 0 << 0 << 10;
-    QTest::newRow("odd width") << 20 << 40 << 7;
-    QTest::newRow("end of the turn") << 179 << 358 << 10;
-    QTest::newRow("next turn") << 181 << 2 << 10;
-    QTest::newRow("width of the radius") << 30 << 60 << 45;
-}
-
-void TestLoadingWidget::paints()
-{
-    QFETCH(int, steps);
-    QFETCH(int, angle);
-    QFETCH(int, width);
-    LoadingWidget spinner;
-    spinner.stop();
-    spinner.setWidth(width);
-    for (int i = 0; i < steps; ++i)
-        spinner.updateRotate();
-    QConicalGradient gradient(0, 0, 0);
-    gradient.setColorAt(0.0, "#316AFF");
-    gradient.setColorAt(1.0, Qt::white);
-
-    const QHash<int, int> radiusOfHeight = {{90, 45}, {101, 50}};
-    for (const QSize size : {QSize(90, 90), QSize(201, 101)}) {
-        spinner.resize(size);
-        const int radius = radiusOfHeight.value(size.height());
-        const int half = width / 2;
-        const int diameter = 2 * radius - 2 * half;
-        COMPARE_PICTURES(
-            snapshot(spinner), reference(size, [&](QPainter &painter) {
-                painter.translate(size.width() / 2, size.height() / 2);
-                painter.setRenderHint(QPainter::Antialiasing);
-                painter.rotate(angle);
-                painter.setPen(
-                    {gradient, double(width), Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin});
-                painter.drawArc(QRectF(half - radius, half - radius, diameter, diameter), 0, 5760);
-                QPainterPath head(QPointF(radius - width, 0));
-                head.arcTo(radius - width, -half, width, width, 0, 360);
-                painter.fillPath(head, QColor("#316AFF"));
-            }));
-    }
-}
-
-void TestLoadingWidget::addsColors()
-{
-    LoadingWidget spinner;
-    spinner.stop();
-    spinner.resize(90, 90);
-    const QImage before = snapshot(spinner);
-    spinner.addGradientColor({});
-    COMPARE_PICTURES(snapshot(spinner), before);
-
-    spinner.addGradientColor({{0.5, QColor(Qt::red)}, {7.0, Qt::green}, {qQNaN(), Qt::green}});
-    const auto greenAt = [&](int x, int y) { return snapshot(spinner).pixelColor(x, y).green(); };
-    QCOMPARE(greenAt(85, 45), 0); // the head
-    QVERIFY(greenAt(5, 45) < 5); // half way round
-    QVERIFY(qAbs(greenAt(45, 85) - 127) < 5); // three quarters, on the way to white
-    spinner.addGradientColor({{0.5, QColor(Qt::cyan)}});
-    QVERIFY(greenAt(5, 45) > 250);
-}
-
-void TestLoadingWidget::returnsForEveryWidth()
-{
-    LoadingWidget spinner;
-    spinner.resize(90, 90);
-    QElapsedTimer timer;
-    timer.start();
-    for (int width :
-         {0, -1, 100, 40000, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
-        spinner.setWidth(width);
-        snapshot(spinner);
-    }
-    QVERIFY(timer.elapsed() < 1000);
-}
-
-void TestLoadingWidget::turnsUntilStopped()
-{
-    LoadingWidget spinner;
-    spinner.resize(90, 90);
-    const auto turns = [&] {
-        const QImage before = snapshot(spinner);
-        QTest::qWait(60);
-        return snapshot(spinner) != before;
-    };
-    QVERIFY(turns());
-    spinner.stop();
-    QVERIFY(!turns());
-    spinner.start();
-    QVERIFY(turns());
-}
-
-void TestLoadingWidget::repaintsForNewValuesOnly()
-{
-    LoadingWidget spinner;
-    spinner.stop();
-    spinner.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&spinner));
-    PaintCounter paints(spinner);
-    spinner.setWidth(10);
-    spinner.addGradientColor({{0.0, QColor(Qt::red)}});
-    QCOMPARE(paints.take(), 0);
-    spinner.setWidth(12);
-    QCOMPARE(paints.take(), 1);
-    spinner.start();
-    QTest::qWait(100);
-    QVERIFY(paints.take() > 0);
-    spinner.hide();
-    paints.take();
-    QTest::qWait(60);
-    QCOMPARE(paints.take(), 0);
-}
 
 QTEST_MAIN(TestLoadingWidget)
 #include "tst_loadingwidget.moc"

@@ -1,9 +1,7 @@
-#include "picture.h"
-#include "warnings.h"
+#include "progresstest.h"
 
 #include <QPainterPath>
 #include <QVariantAnimation>
-#include <QtTest>
 #include <cmath>
 #include <rotateprogress.h>
 
@@ -11,82 +9,54 @@ using ZIRVOUI::RotateProgress;
 
 namespace {
 
-struct Instant
-{
-    int dots; // degrees
-    int sweep; // degrees
-    int burst; // pixels
-};
-
-void drawFigure(QPainter &painter, const QSize &size, const Instant &now)
+/*! The figure at an instant of its turn, which lasts 2800 ms, and of the burst
+ * after it. */
+void drawFigure(QPainter &painter, const QSize &size, int turn, int burst)
 {
     const QPoint center((size.width() - 1) / 2, (size.height() - 1) / 2);
-    const double radius = 200 + 1.7 * now.burst;
+    const double radius = 200 + 1.7 * burst;
     const auto square
         = [&](double r) { return QRectF(center.x() - r, center.y() - r, 2 * r, 2 * r); };
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
+    const double turned = turn * 360 / 2800.0;
+    const int left = int(360 - turned);
     painter.setBrush(QColor("#87F50E"));
-    painter.setOpacity((200 - now.burst) / 100.0);
+    painter.setOpacity((200 - burst) / 100.0);
     for (int i = 0; i < 16; ++i) {
-        const double angle = qDegreesToRadians(now.dots + 22.5 * i);
+        const double angle = qDegreesToRadians(left + 22.5 * i);
         painter.drawEllipse(int(std::cos(angle) * (radius - 6)) + center.x() - 4,
                             int(std::sin(angle) * (radius - 6)) + center.y() - 4, 8, 8);
     }
     QPainterPath slice(center);
-    slice.arcTo(square(radius), 5 * now.dots, -now.sweep);
-    slice.closeSubpath();
+    slice.arcTo(square(radius), 5 * left, -int(turned));
     QPainterPath hole;
     hole.addEllipse(square(radius - 12));
     painter.fillPath(slice.subtracted(hole), QColor("#87F50E"));
 
-    if (now.burst == 0)
+    if (burst == 0)
         return;
-    QRadialGradient glow(center, 200 + now.burst);
-    glow.setColorAt(0.0, QColor(228, 217, 22));
-    glow.setColorAt(1.0, QColor(229, 247, 56, 0));
+    QRadialGradient glow(center, 200 + burst);
+    glow.setStops({{0.0, QColor(228, 217, 22)}, {1.0, QColor(229, 247, 56, 0)}});
     const int half = size.width() / 2;
     painter.setOpacity(1.0);
     painter.setBrush(glow);
     painter.drawEllipse(center.x() - half, center.y() - half, 2 * half, 2 * half);
 }
 
-/*! The widget's animations, in the order of their phases, held at an instant. */
-class Timeline
+/*! Holds the animations, which \a widget has in the order of their phases, at
+ * an instant. */
+void hold(const RotateProgress &widget, int time)
 {
-public:
-    explicit Timeline(RotateProgress &widget)
-        : m_animations(widget.findChildren<QVariantAnimation *>())
-    {
+    const auto animations = widget.findChildren<QVariantAnimation *>();
+    for (auto *animation : animations) {
+        const int start = animation == animations.last() ? 2800 : 0;
+        if (animation->state() == QAbstractAnimation::Running)
+            animation->pause();
+        if (time > start)
+            animation->setCurrentTime(time - start); // starts the burst when it is the end
     }
-
-    void hold(int ms)
-    {
-        for (auto *animation : {m_animations.at(0), m_animations.at(1)}) {
-            if (animation->state() == QAbstractAnimation::Running)
-                animation->pause();
-            animation->setCurrentTime(qMin(ms, 2800)); // starts the burst when it is the end
-        }
-        if (m_animations.at(2)->state() == QAbstractAnimation::Running)
-            m_animations.at(2)->pause();
-        if (ms > 2800)
-            m_animations.at(2)->setCurrentTime(ms - 2800);
-    }
-
-    bool isAtRest() const
-    {
-        return std::all_of(m_animations.begin(), m_animations.end(), [](auto *animation) {
-            return animation->state() == QAbstractAnimation::Stopped;
-        });
-    }
-
-private:
-    QList<QVariantAnimation *> m_animations;
-};
+}
 
 } // namespace
-
-Q_DECLARE_METATYPE(Instant)
 
 class TestRotateProgress : public QObject
 {
@@ -95,81 +65,34 @@ class TestRotateProgress : public QObject
 private Q_SLOTS:
     void initTestCase() { failOnWarnings(); }
 
-    void paints_data();
-    void paints();
-    void paintsTheWholeTimeline();
-    void startsAgainUnderItsGlow();
-};
-
-void TestRotateProgress::paints_data()
-{
-    QTest::addColumn<int>("time"); // ms
-    QTest::addColumn<Instant>("instant");
-    QTest::newRow("start") << 0 << Instant{360, 0, 0};
-    QTest::newRow("turning") << 700 << Instant{270, 90, 0};
-    QTest::newRow("before the end") << 2790 << Instant{1, 358, 0};
-    QTest::newRow("nearly closed") << 2796 << Instant{0, 359, 0};
-    QTest::newRow("closed") << 2800 << Instant{0, 360, 0};
-    QTest::newRow("bursting") << 2850 << Instant{0, 360, 50};
-    QTest::newRow("fading") << 2950 << Instant{0, 360, 150};
-    QTest::newRow("glowing") << 3000 << Instant{0, 360, 200};
-}
-
-void TestRotateProgress::paints()
-{
-    QFETCH(int, time);
-    QFETCH(Instant, instant);
-    for (const QSize size : {QSize(420, 420), QSize(451, 303)}) {
+    void paintsUntilStopped()
+    {
         RotateProgress widget;
-        widget.resize(size);
-        const QImage nothing = blankPicture(size);
-        COMPARE_PICTURES(snapshot(widget), nothing);
+        COMPARE_PICTURES(snapshot(widget), blankPicture(widget.size()));
+        for (int time : {53,   106,  318,  583,  901,  1219, 1643, 1855, 2120, 2385, 2597,
+                         2756, 2790, 2796, 2800, 2850, 700,  2862, 2950, 0,    3000, 1431}) {
+            // Stopped in any phase it draws nothing, and starts from the beginning.
+            widget.startAnmition();
+            hold(widget, time);
+            comparePictures(widget, {{420, 420}, {451, 303}},
+                            [&](auto &painter, const QSize &size) {
+                                drawFigure(painter, size, qMin(time, 2800), qMax(0, time - 2800));
+                            });
+            widget.stopAnmition();
+            COMPARE_PICTURES(snapshot(widget), blankPicture(widget.size()));
+            for (const auto *animation : widget.findChildren<QVariantAnimation *>())
+                QCOMPARE(animation->state(), QAbstractAnimation::Stopped);
+        }
 
-        // Stopped in any phase it draws nothing, and starts from the beginning.
-        Timeline timeline(widget);
-        widget.startAnmition();
-        timeline.hold(2900);
-        widget.stopAnmition();
-        widget.startAnmition();
-        timeline.hold(time);
-        COMPARE_PICTURES(snapshot(widget), reference(size, [&](QPainter &painter) {
-                             drawFigure(painter, size, instant);
-                         }));
-        widget.stopAnmition();
-        COMPARE_PICTURES(snapshot(widget), nothing);
-        QVERIFY(timeline.isAtRest());
+        // Its glow stays from one turn to the next.
+        for (int time : {3000, 1400}) {
+            widget.startAnmition();
+            hold(widget, time);
+        }
+        const auto draw = [](auto &painter, auto &size) { drawFigure(painter, size, 1400, 200); };
+        comparePictures(widget, {{420, 420}}, draw);
     }
-}
-
-void TestRotateProgress::paintsTheWholeTimeline()
-{
-    RotateProgress widget;
-    widget.resize(431, 401);
-    widget.startAnmition();
-    Timeline timeline(widget);
-    for (int time = 0; time < 3000; time += 53) {
-        timeline.hold(time);
-        const double turned = qMin(time, 2800) * 360 / 2800.0;
-        const Instant now = {int(360 - turned), int(turned), qMax(0, time - 2800)};
-        COMPARE_PICTURES(snapshot(widget), reference(widget.size(), [&](QPainter &painter) {
-                             drawFigure(painter, widget.size(), now);
-                         }));
-    }
-}
-
-void TestRotateProgress::startsAgainUnderItsGlow()
-{
-    RotateProgress widget;
-    widget.resize(420, 420);
-    widget.startAnmition();
-    Timeline(widget).hold(3000);
-    widget.startAnmition();
-    Timeline(widget).hold(1400);
-    const QImage glow = reference(widget.size(), [&](QPainter &painter) {
-        drawFigure(painter, widget.size(), {180, 180, 200});
-    });
-    COMPARE_PICTURES(snapshot(widget), glow);
-}
+};
 
 QTEST_MAIN(TestRotateProgress)
 #include "tst_rotateprogress.moc"

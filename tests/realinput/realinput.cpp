@@ -16,19 +16,19 @@ using namespace ZIRVOUI;
 
 namespace {
 
-constexpr int LongPressDelay = 300; // ms
-constexpr int LongPressInterval = 100; // ms
-
 void report(const QObject *who, const QString &what)
 {
     std::puts(qPrintable(who->objectName() + ' ' + what));
     std::fflush(stdout);
 }
 
-template <typename Sender, typename Signal>
-void reportSignal(Sender *sender, Signal signal, const char *name)
+// The format may show the values that come with the signal.
+template <typename Sender, typename Class, typename... Values>
+void reportSignal(Sender *sender, void (Class::*signal)(Values...), const char *format)
 {
-    QObject::connect(sender, signal, sender, [sender, name] { report(sender, name); });
+    QObject::connect(sender, signal, sender, [sender, format](Values... values) {
+        report(sender, QString::asprintf(format, values...));
+    });
 }
 
 template <typename Widget>
@@ -50,12 +50,10 @@ Button *placeButton(Button *button, const char *name, const QRect &rect)
 }
 
 /*! Holds one button, which follows the finger up and down. */
-class Scroller : public QWidget
+struct Scroller : QWidget
 {
-public:
     using QWidget::QWidget;
 
-protected:
     void mousePressEvent(QMouseEvent *event) override
     {
         m_lastY = event->y();
@@ -76,17 +74,60 @@ protected:
         report(this, QString::asprintf("release,moves=%d,y=%d", m_moves, y));
     }
 
-private:
     int m_lastY = 0;
     int m_moves = 0;
 };
 
-class Window : public QWidget
+struct Window : QWidget
 {
-public:
-    Window();
+    Window()
+    {
+        place(this, "window", {0, 0, 600, 320})->setWindowFlags(Qt::FramelessWindowHint);
+        winId();
+        windowHandle()->installEventFilter(this);
 
-protected:
+        placeButton(new ZButton(this), "zbutton", {20, 20, 200, 60});
+
+        auto *scroller = place(new Scroller(this), "scroller", {20, 100, 200, 200});
+        placeButton(new ZButton(scroller), "scroller button", {20, 100, 160, 60})
+            ->setMouseEventToParent(true);
+
+        auto *rounded = placeButton(new RoundedButton(this), "rounded", {240, 20, 120, 60});
+        reportSignal(rounded, &RoundedButton::signal_mousePressed, "signal_mousePressed");
+        reportSignal(rounded, &RoundedButton::signal_mouseReleased, "signal_mouseReleased");
+        reportSignal(rounded, &RoundedButton::signal_clicked, "signal_clicked");
+
+        const QString noIcon = QStringLiteral("missing.svg");
+        auto *circle = placeButton(new CircleButton(noIcon, this), "circle", {380, 20, 80, 80});
+        circle->setLongPressDelayMS(300);
+        circle->setLongPressIntervalMS(100);
+        circle->setLongPressRepeat(true);
+        reportSignal(circle, &CircleButton::signal_longPressed, "signal_longPressed");
+
+        auto *image
+            = place(new ImageSwitchButton(noIcon, noIcon, this), "image", {480, 20, 80, 80});
+        reportSignal(image, &ImageSwitchButton::signal_clicked, "signal_clicked=%d");
+
+        auto *toggle = place(new SwitchButton(this), "switch", {240, 120, 119, 68});
+        reportSignal(toggle, &SwitchButton::toggled, "toggled=%d");
+        reportSignal(toggle, &SwitchButton::stateChanged, "stateChanged=%d");
+        connect(toggle, &SwitchButton::stateChanged, toggle, [toggle] {
+            // A slide that another one cuts short does not finish.
+            const auto *slide = toggle->findChildren<QPropertyAnimation *>().constLast();
+            connect(slide, &QPropertyAnimation::finished, toggle, [toggle] {
+                report(toggle,
+                       QString::asprintf("rest=%d,checked=%d,state=%d", toggle->offset(),
+                                         toggle->isChecked(), toggle->checkState()));
+            });
+        });
+
+        auto *label = place(new ZClickLabel(this), "label", {380, 120, 120, 60});
+        label->installEventFilter(this);
+        reportSignal(label, &ZClickLabel::signal_pressed, "pressed");
+        reportSignal(label, &ZClickLabel::signal_released, "released");
+        reportSignal(label, &ZClickLabel::signal_clicked, "clicked");
+    }
+
     bool eventFilter(QObject *watched, QEvent *event) override
     {
         if (watched->isWidgetType() && event->type() == QEvent::MouseButtonDblClick)
@@ -111,55 +152,6 @@ protected:
         report(this, "end");
     }
 };
-
-Window::Window()
-{
-    place(this, "window", {0, 0, 600, 320})->setWindowFlags(Qt::FramelessWindowHint);
-    winId();
-    windowHandle()->installEventFilter(this);
-
-    placeButton(new ZButton(this), "zbutton", {20, 20, 200, 60});
-
-    auto *scroller = place(new Scroller(this), "scroller", {20, 100, 200, 200});
-    placeButton(new ZButton(scroller), "scroller button", {20, 100, 160, 60})
-        ->setMouseEventToParent(true);
-
-    auto *rounded = placeButton(new RoundedButton(this), "rounded", {240, 20, 120, 60});
-    reportSignal(rounded, &RoundedButton::signal_mousePressed, "signal_mousePressed");
-    reportSignal(rounded, &RoundedButton::signal_mouseReleased, "signal_mouseReleased");
-    reportSignal(rounded, &RoundedButton::signal_clicked, "signal_clicked");
-
-    const QString noIcon = QStringLiteral("missing.svg");
-    auto *circle = placeButton(new CircleButton(noIcon, this), "circle", {380, 20, 80, 80});
-    circle->setLongPressDelayMS(LongPressDelay);
-    circle->setLongPressIntervalMS(LongPressInterval);
-    circle->setLongPressRepeat(true);
-    reportSignal(circle, &CircleButton::signal_longPressed, "signal_longPressed");
-
-    auto *image = place(new ImageSwitchButton(noIcon, noIcon, this), "image", {480, 20, 80, 80});
-    connect(image, &ImageSwitchButton::signal_clicked, image,
-            [image](bool open) { report(image, QString::asprintf("signal_clicked=%d", open)); });
-
-    auto *toggle = place(new SwitchButton(this), "switch", {240, 120, 119, 68});
-    connect(toggle, &SwitchButton::toggled, toggle,
-            [toggle](bool checked) { report(toggle, QString::asprintf("toggled=%d", checked)); });
-    connect(toggle, &SwitchButton::stateChanged, toggle, [toggle](int state) {
-        report(toggle, QString::asprintf("stateChanged=%d", state));
-        // A slide that another one cuts short does not finish.
-        const auto *slide = toggle->findChildren<QPropertyAnimation *>().constLast();
-        connect(slide, &QPropertyAnimation::finished, toggle, [toggle] {
-            report(toggle,
-                   QString::asprintf("rest=%d,checked=%d,state=%d", toggle->offset(),
-                                     toggle->isChecked(), toggle->checkState()));
-        });
-    });
-
-    auto *label = place(new ZClickLabel(this), "label", {380, 120, 120, 60});
-    label->installEventFilter(this);
-    reportSignal(label, &ZClickLabel::signal_pressed, "pressed");
-    reportSignal(label, &ZClickLabel::signal_released, "released");
-    reportSignal(label, &ZClickLabel::signal_clicked, "clicked");
-}
 
 } // namespace
 
