@@ -41,6 +41,17 @@ private:
     QPixmap m_picture;
 };
 
+/*! \a picture as QPainter scales it into \a size; opaque if it is opaque. */
+QPixmap stretched(const QPixmap &picture, const QSize &size, double ratio)
+{
+    QPixmap result(size * ratio);
+    result.setDevicePixelRatio(ratio);
+    if (picture.hasAlphaChannel())
+        result.fill(Qt::transparent);
+    QPainter(&result).drawPixmap(QRectF(QPointF(), size), picture, QRectF());
+    return result;
+}
+
 double pixelRatio(const QPainter &painter)
 {
     return painter.paintEngine()->paintDevice()->devicePixelRatioF();
@@ -50,6 +61,25 @@ QByteArray fileBytes(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+using StretchedPicture = KeptPicture<qint64, QSize, double>;
+
+// What reaches beyond bounds may be of any size: it is not worth its memory.
+void drawStretched(QPainter &painter, const QRectF &target, const QPixmap &picture,
+                   const QRectF &bounds, StretchedPicture &kept)
+{
+    if (picture.isNull())
+        return;
+    if (!target.isValid() || !bounds.contains(target)) {
+        painter.drawPixmap(target, picture, QRectF());
+        return;
+    }
+    const QSize size = target.size().toSize();
+    const double ratio = pixelRatio(painter);
+    painter.drawPixmap(target.topLeft(), kept.of({picture.cacheKey(), size, ratio}, [&] {
+        return stretched(picture, size, ratio);
+    }));
 }
 
 } // namespace
@@ -78,7 +108,9 @@ public:
     ZImageButton *q;
 
     KeptPicture<QByteArray> decodedBackground;
+    StretchedPicture stretchedBackground;
     KeptPicture<QSize, double> renderedIcon;
+    StretchedPicture stretchedIcon;
 };
 
 void ZImageButtonPrivate::init()
@@ -109,7 +141,7 @@ void ZImageButtonPrivate::drawBackgroundPicture(QPainter &painter, const QRectF 
         decoded.loadFromData(bytes);
         return decoded;
     });
-    painter.drawPixmap(rect, picture, QRectF());
+    drawStretched(painter, rect, picture, q->rect(), stretchedBackground);
 }
 
 void ZImageButtonPrivate::drawIcon(QPainter &painter, SvgFile &icon)
@@ -123,7 +155,7 @@ void ZImageButtonPrivate::drawIcon(QPainter &painter, SvgFile &icon)
         icon.render(&iconPainter, q->rect());
         return rendered;
     });
-    painter.drawPixmap(QRectF(iconRect), picture, QRectF());
+    drawStretched(painter, iconRect, picture, q->rect(), stretchedIcon);
 }
 
 ZImageButton::ZImageButton(QWidget *parent)
