@@ -16,8 +16,6 @@ constexpr QRgb DisabledTextColor = 0xff787878;
 LineEdit::LineEdit(QWidget *parent)
     : QLineEdit(parent)
 {
-    // Queued connections by name ask for the type before anything else has made it known.
-    qRegisterMetaType<QWidget *>();
     setupStyle();
     setFocusPolicy(Qt::ClickFocus);
 }

@@ -26,9 +26,6 @@ constexpr QRgb DefaultGrooveColor = 0xff797979;
 constexpr QRgb DisabledHandleColor = 0xff797b81;
 constexpr double DisabledGrooveOpacity = 0.3;
 
-// Beyond every int by more than any step, and yet nothing that is computed from it overflows.
-constexpr double FarOut = 1e12;
-
 // Takes the whole part first, so that this is not the nearest multiple of every number.
 double snapped(double exact, double step)
 {
@@ -159,7 +156,7 @@ void ZSlider::calcHandleValue(int x)
     const double range = double(maximum()) - minimum();
     const double center = double(x) - height() / 2;
     const double exact = minimum() + range * center / way;
-    setValue(truncated(snapped(qBound(-FarOut, exact, FarOut), singleStep())));
+    setValue(truncated(snapped(exact, singleStep())));
 }
 
 void ZSlider::paintGroove()

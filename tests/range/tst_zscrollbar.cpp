@@ -87,6 +87,7 @@ void scrollInAllWays(Scroller &area)
     finger.move({top.x(), 90});
     finger.move({top.x() - 30, 150});
     finger.release({top.x() - 30, 150});
+    area.values << bar->isSliderDown();
     tap(bar, bottom);
     tap(bar, {top.x(), bar->height() - 3});
     tap(bar, top);
@@ -158,6 +159,9 @@ private Q_SLOTS:
             QEvent leave(QEvent::Leave);
             QCoreApplication::sendEvent(&bar, &leave);
             QCOMPARE(shows(Handle), QString());
+            bar.mouse(QEvent::MouseMove, on);
+            QCOMPARE(shows(Hovered), QString());
+            QCoreApplication::sendEvent(&bar, &leave);
             bar.mouse(QEvent::MouseButtonPress, on);
             QCOMPARE(shows(Touched), QString());
             bar.mouse(QEvent::MouseButtonRelease, on);
@@ -180,6 +184,7 @@ private Q_SLOTS:
         }
         Bar plain;
         plain.resize(16, 100);
+        QCOMPARE(plain.orientation(), Qt::Vertical);
         COMPARE_PICTURES(snapshot(plain), expected(plain, Qt::transparent, Handle));
     }
 
