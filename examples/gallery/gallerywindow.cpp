@@ -20,7 +20,8 @@ struct PageEntry
 
 constexpr PageEntry Pages[] = {
     {"Labels", fillLabelsPage},   {"Images", fillImagesPage},     {"Dialogs", fillDialogsPage},
-    {"Buttons", fillButtonsPage}, {"Progress", fillProgressPage},
+    {"Buttons", fillButtonsPage}, {"Progress", fillProgressPage}, {"Range", fillRangePage},
+    {"Input", fillInputPage},
 };
 
 constexpr QSize ScreenSize(1280, 800);

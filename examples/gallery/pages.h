@@ -9,5 +9,7 @@ void fillImagesPage(Page *page);
 void fillDialogsPage(Page *page);
 void fillButtonsPage(Page *page);
 void fillProgressPage(Page *page);
+void fillRangePage(Page *page);
+void fillInputPage(Page *page);
 
 #endif

@@ -1,53 +1,59 @@
-// A window of buttons that prints a line for each of their signals: "<object name> <signal>".
+// A window of widgets that prints a line for each of their signals: "<object name> <signal>".
 #include "circlebutton.h"
 #include "imageswitchbutton.h"
+#include "ipvalidator.h"
+#include "lineedit.h"
+#include "report.h"
 #include "roundedbutton.h"
 #include "switchbutton.h"
 #include "zbutton.h"
 #include "zclicklabel.h"
+#include "zscrollbar.h"
+#include "zslider.h"
 
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPropertyAnimation>
+#include <QScrollArea>
 #include <QWindow>
-#include <cstdio>
 
 using namespace ZIRVOUI;
 
 namespace {
 
-void report(const QObject *who, const QString &what)
+// Finds the left edge above the groove, where the handle is almost at its widest.
+QString seen(ZSlider &slider)
 {
-    std::puts(qPrintable(who->objectName() + ' ' + what));
-    std::fflush(stdout);
+    constexpr int GrooveThickness = 6;
+    const QImage image = slider.grab().toImage();
+    const int y = (image.height() - GrooveThickness) / 2 - 1;
+    int x = 0;
+    while (x < image.width() && image.pixel(x, y) == image.pixel(0, 0))
+        ++x;
+    return QString::asprintf("handle=%d", x);
 }
 
-// The format may show the values that come with the signal.
-template <typename Sender, typename Class, typename... Values>
-void reportSignal(Sender *sender, void (Class::*signal)(Values...), const char *format)
+QString seen(ZScrollBar &bar)
 {
-    QObject::connect(sender, signal, sender, [sender, format](Values... values) {
-        report(sender, QString::asprintf(format, values...));
-    });
+    return "middle=" + bar.grab().toImage().pixelColor(bar.rect().center()).name();
 }
 
+/*! Reports what is to be seen of it when an event of mouse or keys has changed that. */
 template <typename Widget>
-Widget *place(Widget *widget, const char *name, const QRect &rect)
+struct Watched : Widget
 {
-    widget->setObjectName(name);
-    widget->setGeometry(rect);
-    return widget;
-}
+    using Widget::Widget;
 
-// Reports the signals of the base class as well.
-template <typename Button>
-Button *placeButton(Button *button, const char *name, const QRect &rect)
-{
-    reportSignal(button, &Button::pressed, "pressed");
-    reportSignal(button, &Button::released, "released");
-    reportSignal(button, &Button::clicked, "clicked");
-    return place(button, name, rect);
-}
+    bool event(QEvent *event) override
+    {
+        const bool handled = Widget::event(event);
+        if (dynamic_cast<const QInputEvent *>(event) && m_lastSeen != seen(*this))
+            report(this, m_lastSeen = seen(*this));
+        return handled;
+    }
+
+    QString m_lastSeen;
+};
 
 /*! Holds one button, which follows the finger up and down. */
 struct Scroller : QWidget
@@ -82,7 +88,7 @@ struct Window : QWidget
 {
     Window()
     {
-        place(this, "window", {0, 0, 600, 320})->setWindowFlags(Qt::FramelessWindowHint);
+        place(this, "window", {0, 0, 600, 560})->setWindowFlags(Qt::FramelessWindowHint);
         winId();
         windowHandle()->installEventFilter(this);
 
@@ -126,13 +132,53 @@ struct Window : QWidget
         reportSignal(label, &ZClickLabel::signal_pressed, "pressed");
         reportSignal(label, &ZClickLabel::signal_released, "released");
         reportSignal(label, &ZClickLabel::signal_clicked, "clicked");
+
+        placeRanges();
+        placeFields();
+    }
+
+    void placeRanges()
+    {
+        auto *slider = place(new Watched<ZSlider>(this), "", {20, 330, 220, 20});
+        slider->setRange(0, 100);
+        slider->setSingleStep(10);
+        reportSlider(slider, "slider");
+
+        placeScrollArea(new QScrollBar(this), "stock bar", {260, 330, 140, 200});
+        placeScrollArea(new ZScrollBar(this), "bar", {410, 330, 140, 200});
+        place(new Watched<ZScrollBar>(this), "lone bar", {560, 330, 16, 200})->setValue(50);
+    }
+
+    void placeScrollArea(QScrollBar *bar, const char *name, const QRect &rect)
+    {
+        auto *area = place(new QScrollArea(this), "", rect);
+        area->setWidget(place(new QWidget, "", {0, 0, 100, 1000}));
+        area->setVerticalScrollBar(bar);
+        reportSlider(bar, name);
+    }
+
+    void placeFields()
+    {
+        placeField(new QLineEdit(this), "field before", {20, 370, 220, 30});
+        auto *address = placeField(new LineEdit(this), "address", {20, 410, 220, 30});
+        auto *field = placeField(new LineEdit(this), "field", {20, 450, 220, 30});
+        placeField(new QLineEdit(this), "field after", {20, 490, 220, 30});
+
+        address->setValidator(new IPValidator(this));
+        for (LineEdit *edit : {address, field}) {
+            reportSignal(edit, &LineEdit::signal_focusIn, "signal_focusIn");
+            reportSignal(edit, &LineEdit::signal_focusOut, "signal_focusOut");
+        }
     }
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
         if (watched->isWidgetType() && event->type() == QEvent::MouseButtonDblClick)
             report(watched, "doubleClick");
-        if (event->type() == QEvent::Expose && windowHandle()->isExposed()) {
+        // Without a window manager nobody else gives the window the keyboard.
+        if (event->type() == QEvent::Expose && windowHandle()->isExposed())
+            windowHandle()->requestActivate();
+        if (watched == windowHandle() && event->type() == QEvent::FocusIn) {
             windowHandle()->removeEventFilter(this);
             report(this, "ready");
         }
@@ -159,6 +205,7 @@ int main(int argc, char *argv[])
 {
     // Every step of the pointer has to arrive, however slow the machine.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
+    QApplication::setStyle(QStringLiteral("fusion")); // places the parts of scroll bars
     QApplication app(argc, argv);
     Window window;
     window.show();
