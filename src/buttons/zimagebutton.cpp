@@ -2,6 +2,7 @@
 
 #include "buttonstate_p.h"
 #include "flipchecked_p.h"
+#include "kept_p.h"
 #include "svgfile_p.h"
 #include "widgetlength_p.h"
 #include "zsvgwidget.h"
@@ -11,35 +12,10 @@
 #include <QPainter>
 #include <QStyleOptionButton>
 #include <QVBoxLayout>
-#include <tuple>
 
 namespace ZIRVOUI {
 
 namespace {
-
-/*! A picture beside the inputs that it was made from; made again when they differ. */
-template <typename... Inputs>
-class KeptPicture
-{
-public:
-    template <typename Make>
-    const QPixmap &of(const std::tuple<Inputs...> &inputs, Make make)
-    {
-        if (!m_isMade || inputs != m_inputs) {
-            m_inputs = inputs;
-            m_picture = make();
-            m_isMade = true;
-        }
-        return m_picture;
-    }
-
-    void forget() { m_isMade = false; }
-
-private:
-    bool m_isMade = false;
-    std::tuple<Inputs...> m_inputs;
-    QPixmap m_picture;
-};
 
 /*! \a picture as QPainter scales it into \a size; opaque if it is opaque. */
 QPixmap stretched(const QPixmap &picture, const QSize &size, double ratio)
@@ -63,7 +39,7 @@ QByteArray fileBytes(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-using StretchedPicture = KeptPicture<qint64, QSize, double>;
+using StretchedPicture = Kept<QPixmap, qint64, QSize, double>;
 
 // What reaches beyond bounds may be of any size: it is not worth its memory.
 void drawStretched(QPainter &painter, const QRectF &target, const QPixmap &picture,
@@ -107,9 +83,9 @@ public:
     QString backgroundPicture;
     ZImageButton *q;
 
-    KeptPicture<QByteArray> decodedBackground;
+    Kept<QPixmap, QByteArray> decodedBackground;
     StretchedPicture stretchedBackground;
-    KeptPicture<QSize, double> renderedIcon;
+    Kept<QPixmap, QSize, double> renderedIcon;
     StretchedPicture stretchedIcon;
 };
 

@@ -1,0 +1,60 @@
+#ifndef ZRESIZABLELABEL_H
+#define ZRESIZABLELABEL_H
+
+#include "zcommonwidgets_export.h"
+
+#include <QLabel>
+#include <QScopedPointer>
+
+namespace ZIRVOUI {
+
+struct ZResizableLabelPrivate;
+
+/*!
+ * A word-wrapped label that grows with its text from a minimum size towards a maximum size.
+ *
+ * Its preferred size is that of the text in the first box that holds it: 50 pixels higher each, and
+ * wider in proportion.  A text that fits into the minimum prefers the minimum, one that fits
+ * nowhere the maximum, and so does an empty one.  Markup counts as text there.
+ *
+ * Text of the format Qt::RichText is drawn as HTML in the application's font, anything else as it
+ * stands in the label's font and alignment.  HTML is trusted: what it names is loaded, and its
+ * layout takes as long as it takes, once for each new text or width.
+ */
+class ZCOMMONWIDGETS_EXPORT ZResizableLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit ZResizableLabel(QWidget *parent = nullptr);
+    explicit ZResizableLabel(const QString &text, QWidget *parent = nullptr);
+    ~ZResizableLabel() override;
+
+    /*! Also the widget's minimum size, 70 × 30 by default. */
+    void setMinSize(const QSize &size);
+    /*!
+     * Also the widget's maximum size, 1190 × 768 by default.  With one lower than the minimum the
+     * label prefers the size that it has.
+     */
+    void setMaxSize(const QSize &size);
+    /*! The colour of text that is not HTML, black by default.  Only stores. */
+    void setFontColor(const QColor &color);
+    /*! Transparent by default.  Only stores. */
+    void setBackgroundColor(const QColor &color);
+
+    QSize sizeHint() const override;
+
+    /*! The two ways to draw the text, for use in a paintEvent(); elsewhere they draw nothing. */
+    void paintNormalText();
+    void paintRichText();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QScopedPointer<ZResizableLabelPrivate> d;
+};
+
+} // namespace ZIRVOUI
+
+#endif

@@ -1,0 +1,48 @@
+#ifndef ZTEXTWIDGET_H
+#define ZTEXTWIDGET_H
+
+#include "zcommonwidgets_export.h"
+
+#include <QTextDocument>
+#include <QWidget>
+
+namespace ZIRVOUI {
+
+/*!
+ * An HTML document on a coloured ground, as wide as the widget; what does not fit into its height
+ * is not seen.
+ *
+ * HTML is trusted: what it names is loaded, and its layout takes as long as it takes, once for each
+ * new document or width.
+ */
+class ZCOMMONWIDGETS_EXPORT ZTextWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ZTextWidget(QWidget *parent = nullptr);
+    ~ZTextWidget() override;
+
+    /*! Repaints. */
+    void setHtml(QString html);
+    /*!
+     * The document, which belongs to the widget.  Changes to it show at the next paint: call
+     * update().  After addResource() call its markContentsDirty() as well.
+     */
+    QTextDocument *textDocument();
+    /*! Empties the document.  Does not repaint. */
+    void clearText();
+    /*! The ground, transparent by default.  Only stores. */
+    void setBackgroundColor(const QColor &color);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QTextDocument m_document;
+    QColor m_backgroundColor = Qt::transparent;
+};
+
+} // namespace ZIRVOUI
+
+#endif

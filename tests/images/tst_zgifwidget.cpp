@@ -1,0 +1,86 @@
+#include "paintcounter.h"
+#include "picture.h"
+#include "samplefile.h"
+#include "warnings.h"
+
+#include <QMovie>
+#include <QPointer>
+#include <QtTest>
+#include <climits>
+#include <zgifwidget.h>
+
+using ZIRVOUI::ZGifWidget;
+
+class TestZGifWidget : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        failOnWarnings();
+        // 4 × 2 pixels of red and of blue, 50 ms each, for ever.
+        m_gif.write(QByteArray::fromBase64(
+            "R0lGODlhBAACAPAAAP8AAAAA/yH5BAQFAAAAIf8LTkVUU0NBUEUyLjADAQAAACwAAAAABAACAAACA4RvBQAh+"
+            "QQEBQAAACwAAAAABAACAAACA4xvBQA7"));
+    }
+
+    void plays()
+    {
+        ZGifWidget widget(m_gif.path());
+        QCOMPARE(widget.movie()->state(), QMovie::Running);
+        widget.toDefaultSize();
+        QCOMPARE(widget.minimumSize(), QSize(4, 2));
+        widget.setSize(10, 6);
+        QCOMPARE(widget.size(), QSize(4, 2));
+        QVERIFY(repaints(widget, [] { QTest::qWait(300); }));
+        widget.toDefaultSize();
+        QCOMPARE(widget.maximumSize(), QSize(10, 6));
+
+        widget.movie()->setPaused(true);
+        for (const QColor color : {Qt::red, Qt::blue, Qt::red}) {
+            widget.movie()->jumpToFrame(color == Qt::blue);
+            const auto fill = [&](QPainter &painter) { painter.fillRect(0, 0, 10, 6, color); };
+            COMPARE_PICTURES(snapshot(widget), reference({10, 6}, fill));
+        }
+        QVERIFY(!repaints(widget, [] { QTest::qWait(100); }));
+    }
+
+    void showsNothingOfABadFile()
+    {
+        const SampleFile broken("broken.gif");
+        broken.write("GIF89a");
+        for (const QString &path : {broken.path(), QString("missing.gif"), QString()}) {
+            ZGifWidget widget(path);
+            widget.setSize(20, 20);
+            COMPARE_PICTURES(snapshot(widget, {9, 9}), blankPicture({9, 9}));
+            widget.toDefaultSize();
+            QCOMPARE(widget.size(), QSize(0, 0));
+        }
+    }
+
+    void refusesSizesOfNoPicture()
+    {
+        ZGifWidget widget(m_gif.path());
+        for (const int side : {INT_MAX, 100000, 0, -7, INT_MIN}) {
+            widget.setSize(side, side);
+            widget.movie()->jumpToNextFrame();
+            widget.toDefaultSize();
+            QCOMPARE(widget.size(), QSize(4, 2));
+        }
+    }
+
+    void endsWithItsMovie()
+    {
+        auto *widget = new ZGifWidget(m_gif.path());
+        const QPointer<QMovie> movie(widget->movie());
+        delete widget;
+        QVERIFY(!movie);
+    }
+
+private:
+    const SampleFile m_gif = SampleFile("sample.gif");
+};
+
+QTEST_MAIN(TestZGifWidget)
+#include "tst_zgifwidget.moc"
