@@ -1,3 +1,5 @@
+#include "imagespage.h"
+
 #include "controlpanel.h"
 #include "page.h"
 #include "pages.h"
@@ -91,4 +93,6 @@ void addSvgWidget(Page *page)
 void fillImagesPage(Page *page)
 {
     addSvgWidget(page);
+    addZGifWidget(page);
+    addMaskWidget(page);
 }

@@ -1,3 +1,5 @@
+#include "labelspage.h"
+
 #include "controlpanel.h"
 #include "page.h"
 #include "pages.h"
@@ -131,4 +133,9 @@ void addClickLabel(Page *page)
 void fillLabelsPage(Page *page)
 {
     addClickLabel(page);
+    addZAdjustFontLabel(page);
+    addZScrollLabel(page);
+    addZResizableLabel(page);
+    addCommonLabelWidget(page);
+    addZTextWidget(page);
 }
