@@ -24,13 +24,13 @@ double heightOf(const QTextLine &line)
 
 } // namespace
 
-LaidOutText::LaidOutText(const QString &text, const QFont &font)
+LaidOutText::LaidOutText(const QString &text, const QFont &font, Qt::LayoutDirection direction)
     : m_text(text)
     , m_leading(QFontMetricsF(font).leading())
     , m_layout(drawable(text), font)
 {
     QTextOption option(Qt::AlignLeft);
-    option.setTextDirection(Qt::LeftToRight);
+    option.setTextDirection(direction);
     m_layout.setTextOption(option);
     m_layout.setCacheEnabled(true);
 
@@ -47,7 +47,7 @@ LaidOutText::LaidOutText(const QString &text, const QFont &font)
 void LaidOutText::draw(QPainter &painter, const QRectF &rect) const
 {
     // These are left to Qt: they are placed by what only it knows.
-    if (painter.layoutDirection() != Qt::LeftToRight || m_text.contains(VariantSeparator)) {
+    if (painter.layoutDirection() == Qt::RightToLeft || m_text.contains(VariantSeparator)) {
         painter.drawText(rect, Qt::AlignVCenter, m_text);
         return;
     }

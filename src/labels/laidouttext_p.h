@@ -9,12 +9,12 @@ namespace ZIRVOUI {
 
 /*!
  * A text that is drawn again and again, and laid out once: to the pixel what QPainter::drawText()
- * draws for Qt::AlignVCenter with the same font.
+ * draws for Qt::AlignVCenter with the same font and direction.
  */
 class LaidOutText
 {
 public:
-    LaidOutText(const QString &text, const QFont &font);
+    LaidOutText(const QString &text, const QFont &font, Qt::LayoutDirection direction);
 
     void draw(QPainter &painter, const QRectF &rect) const;
 

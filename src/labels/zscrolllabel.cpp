@@ -22,7 +22,7 @@ struct ZScrollLabelPrivate
     bool needScroll = true;
 
     Kept<int, QString, QFont> textWidth;
-    Kept<std::unique_ptr<LaidOutText>, QString, QFont> laidOutText;
+    Kept<std::unique_ptr<LaidOutText>, QString, QFont, Qt::LayoutDirection> laidOutText;
 
     static constexpr int NoTimer = -1;
 };
@@ -165,12 +165,13 @@ void ZScrollLabel::paintEvent(QPaintEvent *)
 
     QPainter painter(this);
     painter.setPen(d->fontColor);
-    const LaidOutText &laidOut = *d->laidOutText.of({text(), painter.font()}, [&] {
-        return std::make_unique<LaidOutText>(text(), painter.font());
+    const auto direction = painter.layoutDirection();
+    const auto &laidOut = d->laidOutText.of({text(), painter.font(), direction}, [&] {
+        return std::make_unique<LaidOutText>(text(), painter.font(), direction);
     });
-    laidOut.draw(painter, textRect);
+    laidOut->draw(painter, textRect);
     if (d->timer != d->NoTimer && copyRect.isValid())
-        laidOut.draw(painter, copyRect);
+        laidOut->draw(painter, copyRect);
 }
 
 void ZScrollLabel::resizeEvent(QResizeEvent *event)

@@ -26,30 +26,6 @@ QSize expectedHint(const ZResizableLabel &label, const QSize &min, const QSize &
     return max;
 }
 
-QImage drawnText(const ZResizableLabel &label)
-{
-    return reference(label.size(), [&](QPainter &painter) {
-        painter.fillRect(label.rect(), QColor(20, 40, 200, 150));
-        painter.setFont(label.font());
-        painter.setPen(Qt::red);
-        painter.drawText(label.rect(), int(label.alignment()) | Qt::TextWordWrap, label.text());
-    });
-}
-
-QImage drawnDocument(const ZResizableLabel &label)
-{
-    return reference(label.size(), [&](QPainter &painter) {
-        painter.fillRect(label.rect(), QColor(20, 40, 200, 150));
-        QTextDocument document;
-        document.setHtml(label.text());
-        document.setDocumentMargin(0);
-        document.setTextWidth(label.width());
-        document.drawContents(&painter, label.rect());
-    });
-}
-
-const char Html[] = "<h3>Title</h3><p>Some <b>words</b> of HTML &amp; <i>more</i></p>";
-
 } // namespace
 
 class TestZResizableLabel : public QObject
@@ -59,37 +35,33 @@ class TestZResizableLabel : public QObject
 private Q_SLOTS:
     void initTestCase() { failOnWarnings(); }
 
-    void prefersTheFirstBoxThatHoldsIt_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::newRow("empty") << QString();
-        QTest::newRow("blank") << QStringLiteral("   ");
-        QTest::newRow("short") << QStringLiteral("Yes");
-        QTest::newRow("some words") << QStringLiteral("The door is not closed");
-        QTest::newRow("many words") << QStringLiteral("The door is open. ").repeated(60);
-        QTest::newRow("a long word") << QString(300, 'W');
-        QTest::newRow("a long word among short ones")
-            << QString(90, 'm') + QStringLiteral(" and a few words").repeated(30);
-        QTest::newRow("scripts")
-            << QString::fromUtf8("שלום עולם مرحبا 漢字かな 😀 e\u0301 ").repeated(12);
-        QTest::newRow("paragraphs") << QStringLiteral("a\nb\n\n").repeated(25);
-    }
-
     void prefersTheFirstBoxThatHoldsIt()
     {
-        QFETCH(QString, text);
+        const QString texts[]
+            = {{},
+               "   ",
+               "Yes",
+               "The door is not closed",
+               QString(300, 'W'),
+               QString("The door is open. ").repeated(60),
+               QString("a\nb\n\n").repeated(25),
+               QString(90, 'm') + QString(" and a few words").repeated(30),
+               QString::fromUtf8("שלום עולם مرحبا 漢字かな 😀 e\u0301 ").repeated(12)};
         const QSize limits[][2]
             = {{{70, 30}, {1190, 768}}, {{70, 30}, {70, 9000}}, {{200, 0}, {60, 3000}},
                {{33, 17}, {90, 66}},    {{0, 0}, {4000, 9999}}, {{-5, -3}, {700, 200}}};
         for (const auto &limit : limits) {
-            ZResizableLabel label(text);
+            ZResizableLabel label;
             label.setMinSize(limit[0]);
             label.setMaxSize(limit[1]);
-            for (const int size : {13, 40}) {
-                QFont font = label.font();
-                font.setPixelSize(size);
-                label.setFont(font);
-                QCOMPARE(label.sizeHint(), expectedHint(label, limit[0], limit[1]));
+            for (const QString &text : texts) {
+                label.setText(text);
+                for (const int size : {13, 40}) {
+                    QFont font = label.font();
+                    font.setPixelSize(size);
+                    label.setFont(font);
+                    QCOMPARE(label.sizeHint(), expectedHint(label, limit[0], limit[1]));
+                }
             }
         }
     }
@@ -100,55 +72,66 @@ private Q_SLOTS:
         QCOMPARE(label.minimumSize(), QSize(70, 30));
         QCOMPARE(label.maximumSize(), QSize(1190, 768));
         QVERIFY(label.wordWrap());
+        label.setText("a");
+        QCOMPARE(label.sizeHint(), QSize(70, 30));
         label.setMinSize({80, 40});
-        label.setText(QStringLiteral("a"));
         QCOMPARE(label.sizeHint(), QSize(80, 40));
+        label.setText(QString(30, 'W'));
+        QVERIFY(label.sizeHint().width() > 80);
         label.setMaxSize({INT_MAX, 39});
         label.resize(101, 40);
         QCOMPARE(label.sizeHint(), QSize(101, 40));
-        QCOMPARE(label.maximumSize(), QSize(QWIDGETSIZE_MAX, 39));
     }
 
-    void answersAtOnce()
+    void staysResponsive()
     {
         for (const QString &text : {QString(3000, 'x'), QString("word ").repeated(20000)}) {
-            ZResizableLabel label(text);
-            for (const QSize max : {QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX),
-                                    QSize(70, QWIDGETSIZE_MAX), QSize(INT_MAX, INT_MAX)}) {
-                label.setMaxSize(max);
+            for (const int width : {70, QWIDGETSIZE_MAX, INT_MAX}) {
+                ZResizableLabel label(text);
+                label.setMaxSize({width, qMax(width, QWIDGETSIZE_MAX)});
                 QElapsedTimer timer;
-                timer.start();
-                label.sizeHint();
-                QVERIFY2(timer.elapsed() < 5000, "under sanitizers and emulators as well");
                 timer.start();
                 for (int i = 0; i < 1000; ++i)
                     label.sizeHint();
-                QVERIFY2(timer.elapsed() < 1000, "nothing is to be measured again");
+                QVERIFY2(timer.elapsed() < 6000, "with sanitizers as well");
             }
         }
     }
 
     void paints()
     {
-        ZResizableLabel label(Html);
+        const QString html = "<h3>Title</h3><p>Some <b>words</b> of HTML &amp; <i>more</i></p>";
+        const QColor ground(20, 40, 200, 150);
+        ZResizableLabel label;
         QVERIFY(!repaints(label, [&] {
-            label.setBackgroundColor(QColor(20, 40, 200, 150));
+            label.setBackgroundColor(ground);
             label.setFontColor(Qt::red);
             QTest::qWait(100);
         }));
-        label.setMinSize({20, 20});
+        label.setAlignment(Qt::AlignRight | Qt::AlignBottom);
         for (const QSize size : {QSize(120, 90), QSize(61, 141)}) {
-            for (const auto format : {Qt::AutoText, Qt::PlainText, Qt::RichText, Qt::AutoText}) {
-                label.setTextFormat(format);
-                label.setAlignment(Qt::AlignRight | Qt::AlignBottom);
-                const QImage picture = snapshot(label, size);
-                const bool isRich = format == Qt::RichText;
-                COMPARE_PICTURES(picture, isRich ? drawnDocument(label) : drawnText(label));
+            for (const auto format : {Qt::AutoText, Qt::RichText, Qt::PlainText}) {
+                for (const QString &text : {html, html.left(30)}) {
+                    label.setTextFormat(format);
+                    label.setText(text);
+                    const QRect rect(QPoint(), size);
+                    const QImage expected = reference(size, [&](QPainter &painter) {
+                        painter.fillRect(rect, ground);
+                        QTextDocument document;
+                        document.setHtml(text);
+                        document.setDocumentMargin(0);
+                        document.setTextWidth(size.width());
+                        if (format == Qt::RichText)
+                            return document.drawContents(&painter, rect);
+                        painter.setFont(label.font());
+                        painter.setPen(Qt::red);
+                        const auto flags = int(label.alignment()) | Qt::TextWordWrap;
+                        painter.drawText(rect, flags, text);
+                    });
+                    COMPARE_PICTURES(snapshot(label, size), expected);
+                }
             }
         }
-        label.setTextFormat(Qt::RichText);
-        label.setText("<u>new</u>");
-        COMPARE_PICTURES(snapshot(label), drawnDocument(label));
         label.paintNormalText(); // outside a paint
         label.paintRichText();
     }
