@@ -15,8 +15,9 @@ namespace ZIRVOUI {
  * An endless spinner: a ring in a conical gradient with a round head, turning clockwise by 2
  * degrees every 6 milliseconds from its construction on.
  *
- * It is as large as the widget allows, in its middle.  A hidden spinner keeps turning without
- * painting.
+ * It is as large as the widget allows, in its middle.  It is painted once in 16 milliseconds at
+ * most, at the same time as all other spinners of its window.  A hidden spinner keeps turning
+ * without painting.
  */
 class ZCOMMONWIDGETS_EXPORT LoadingWidget : public QWidget
 {
@@ -27,7 +28,7 @@ public:
     explicit LoadingWidget(QWidget *parent = nullptr);
     ~LoadingWidget() override;
 
-    /*! Turns the spinner by one step and repaints; the timer does so. */
+    /*! Turns the spinner by one step, as the timer does, and repaints. */
     void updateRotate();
     void start();
     /*! The spinner stays as it is until start(). */
@@ -48,6 +49,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void turn();
+    void tick();
     void drawRing(QPainter &painter, int radius);
     void drawHead(QPainter &painter, int radius);
 
@@ -56,6 +59,8 @@ private:
     QConicalGradient m_gradient = QConicalGradient(0, 0, 0);
     int m_width = 10; // pixels
     QColor m_headColor;
+    bool m_isBehind = false; // it has turned since it was painted
+    qint64 m_frame = 0; // that it was painted for by the timer
 };
 
 } // namespace ZIRVOUI

@@ -95,7 +95,7 @@ private:
     int withShadow(int length) const;
     QRect insetRect(int by) const;
     void drawShadow(QPainter &painter, const QRect &exposed);
-    void drawBody(QPainter &painter);
+    void drawBody(QPainter &painter, const QRect &exposed);
 
     int m_shadowWidth = 8;
     int m_radius = 20;

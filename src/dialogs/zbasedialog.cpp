@@ -136,7 +136,7 @@ void ZBaseDialog::paintEvent(QPaintEvent *event)
         return;
 
     drawShadow(painter, event->rect());
-    drawBody(painter);
+    drawBody(painter, event->rect());
 }
 
 int ZBaseDialog::withShadow(int length) const
@@ -170,11 +170,17 @@ void ZBaseDialog::drawShadow(QPainter &painter, const QRect &exposed)
     drawOutlines(reach, 0);
 }
 
-void ZBaseDialog::drawBody(QPainter &painter)
+void ZBaseDialog::drawBody(QPainter &painter, const QRect &exposed)
 {
-    const int inset = qBound(-MaxShadowWidth, m_shadowWidth, MaxShadowWidth);
+    const QRect body = insetRect(qBound(-MaxShadowWidth, m_shadowWidth, MaxShadowWidth));
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.fillPath(getDrawPath(insetRect(inset), m_radiusType), m_backgroundColor);
+    // A child that moves exposes a rectangle that no corner reaches.
+    const int corner = qMin(m_radius, MaxShadowWidth);
+    const QRect middle = body.adjusted(corner, corner, -corner, -corner);
+    if (corner >= 0 && middle.isValid() && middle.contains(exposed))
+        painter.fillRect(exposed, m_backgroundColor);
+    else
+        painter.fillPath(getDrawPath(body, m_radiusType), m_backgroundColor);
 }
 
 QRect ZBaseDialog::insetRect(int by) const

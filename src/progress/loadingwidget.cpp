@@ -1,5 +1,6 @@
 #include "loadingwidget.h"
 
+#include <QDeadlineTimer>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -8,6 +9,7 @@ namespace ZIRVOUI {
 namespace {
 
 constexpr int Interval = 6; // ms
+constexpr int FrameTime = 16; // ms
 constexpr int Step = 2; // degrees
 constexpr int FullCircle = 360; // degrees
 constexpr int AngleUnits = 16; // of QPainter in a degree
@@ -18,7 +20,7 @@ constexpr QRgb HeadColor = 0xff316aff;
 LoadingWidget::LoadingWidget(QWidget *parent)
     : QWidget(parent)
 {
-    connect(&m_timer, &QTimer::timeout, this, &LoadingWidget::updateRotate);
+    connect(&m_timer, &QTimer::timeout, this, &LoadingWidget::tick);
     m_timer.start(Interval);
 
     const QColor head(HeadColor);
@@ -30,9 +32,7 @@ LoadingWidget::~LoadingWidget() = default;
 
 void LoadingWidget::updateRotate()
 {
-    m_angle += Step;
-    if (m_angle >= FullCircle)
-        m_angle = 0;
+    turn();
     update();
 }
 
@@ -44,6 +44,8 @@ void LoadingWidget::start()
 void LoadingWidget::stop()
 {
     m_timer.stop();
+    if (m_isBehind)
+        update();
 }
 
 void LoadingWidget::setWidth(int width)
@@ -67,8 +69,36 @@ void LoadingWidget::addGradientColor(const QVector<QPair<double, const QColor &>
     m_headColor = colors.first().second;
 }
 
+void LoadingWidget::turn()
+{
+    m_angle += Step;
+    if (m_angle >= FullCircle)
+        m_angle = 0;
+    m_isBehind = true;
+}
+
+// Qt paints a window as often as something in it asks for it, however often that is.  So the first
+// spinner that ticks within a frame of the clock asks for all.
+void LoadingWidget::tick()
+{
+    turn();
+    const qint64 frame = QDeadlineTimer::current().deadline() / FrameTime;
+    if (frame == m_frame || !isVisible())
+        return;
+
+    m_frame = frame;
+    update();
+    const auto spinners = window()->findChildren<LoadingWidget *>();
+    for (LoadingWidget *spinner : spinners) {
+        spinner->m_frame = frame;
+        if (spinner->m_isBehind)
+            spinner->update();
+    }
+}
+
 void LoadingWidget::paintEvent(QPaintEvent *)
 {
+    m_isBehind = false;
     const int radius = qMin(width(), height()) / 2;
 
     QPainter painter(this);

@@ -22,6 +22,34 @@ void clipToTrack(QPainter &painter, const QRect &track)
     painter.setClipPath(path);
 }
 
+// Between its corners the track is as wide as its rectangle.
+bool isBetweenCorners(const QRect &handle, const QRect &track)
+{
+    constexpr int Corner = int(TrackRadius);
+    const QRect middle = track.adjusted(Corner, Corner, -Corner, -Corner);
+    return (handle.top() >= middle.top() && handle.bottom() <= middle.bottom())
+        || (handle.left() >= middle.left() && handle.right() <= middle.right());
+}
+
+void drawTrack(QPainter &painter, const QRect &track, const QColor &color)
+{
+    if (color.alpha() == 0)
+        return;
+    clipToTrack(painter, track);
+    painter.setBrush(color);
+    painter.drawRect(track);
+}
+
+void drawHandle(QPainter &painter, const QRect &handle, const QRect &track, const QColor &color)
+{
+    if (handle.isValid() && isBetweenCorners(handle, track))
+        painter.setClipRect(track); // which costs less
+    else
+        clipToTrack(painter, track);
+    painter.setBrush(color);
+    painter.drawRoundedRect(handle, HandleRadius, HandleRadius);
+}
+
 } // namespace
 
 ZScrollBar::ZScrollBar(QWidget *parent)
@@ -76,12 +104,9 @@ void ZScrollBar::paintEvent(QPaintEvent *)
     const QRect track = rect().adjusted(Margin, Margin, -Margin, -Margin);
     if (track.isEmpty())
         return;
-    clipToTrack(painter, track);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(m_backgroundColor);
-    painter.drawRect(track);
-    painter.setBrush(handleColor());
-    painter.drawRoundedRect(handleRect(), HandleRadius, HandleRadius);
+    drawTrack(painter, track, m_backgroundColor);
+    drawHandle(painter, handleRect(), track, handleColor());
 }
 
 void ZScrollBar::mousePressEvent(QMouseEvent *event)
