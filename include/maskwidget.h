@@ -4,9 +4,12 @@
 #include "zcommonwidgets_export.h"
 
 #include <QPixmap>
+#include <QScopedPointer>
 #include <QWidget>
 
 namespace ZIRVOUI {
+
+struct MaskWidgetPrivate;
 
 /*!
  * A blurred picture, stretched over the whole widget: a frosted ground for other widgets.
@@ -53,11 +56,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    int m_distance = 100;
-    double m_opacity = 1;
-    double m_blurRadius = 60;
-    QPixmap m_picture;
-    QPixmap m_blurredPicture;
+    QScopedPointer<MaskWidgetPrivate> d;
 };
 
 } // namespace ZIRVOUI

@@ -3,12 +3,12 @@
 #include "buttonstate_p.h"
 #include "flipchecked_p.h"
 #include "kept_p.h"
+#include "stretchedpicture_p.h"
 #include "svgfile_p.h"
 #include "widgetlength_p.h"
 #include "zsvgwidget.h"
 
 #include <QFile>
-#include <QPaintEngine>
 #include <QPainter>
 #include <QStyleOptionButton>
 #include <QVBoxLayout>
@@ -17,45 +17,10 @@ namespace ZIRVOUI {
 
 namespace {
 
-/*! \a picture as QPainter scales it into \a size; opaque if it is opaque. */
-QPixmap stretched(const QPixmap &picture, const QSize &size, double ratio)
-{
-    QPixmap result(size * ratio);
-    result.setDevicePixelRatio(ratio);
-    if (picture.hasAlphaChannel())
-        result.fill(Qt::transparent);
-    QPainter(&result).drawPixmap(QRectF(QPointF(), size), picture, QRectF());
-    return result;
-}
-
-double pixelRatio(const QPainter &painter)
-{
-    return painter.paintEngine()->paintDevice()->devicePixelRatioF();
-}
-
 QByteArray fileBytes(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-using StretchedPicture = Kept<QPixmap, qint64, QSize, double>;
-
-// What reaches beyond bounds may be of any size: it is not worth its memory.
-void drawStretched(QPainter &painter, const QRectF &target, const QPixmap &picture,
-                   const QRectF &bounds, StretchedPicture &kept)
-{
-    if (picture.isNull())
-        return;
-    if (!target.isValid() || !bounds.contains(target)) {
-        painter.drawPixmap(target, picture, QRectF());
-        return;
-    }
-    const QSize size = target.size().toSize();
-    const double ratio = pixelRatio(painter);
-    painter.drawPixmap(target.topLeft(), kept.of({picture.cacheKey(), size, ratio}, [&] {
-        return stretched(picture, size, ratio);
-    }));
 }
 
 } // namespace
@@ -117,7 +82,7 @@ void ZImageButtonPrivate::drawBackgroundPicture(QPainter &painter, const QRectF 
         decoded.loadFromData(bytes);
         return decoded;
     });
-    drawStretched(painter, rect, picture, q->rect(), stretchedBackground);
+    stretchedBackground.draw(painter, rect, picture, q->rect());
 }
 
 void ZImageButtonPrivate::drawIcon(QPainter &painter, SvgFile &icon)
@@ -131,7 +96,7 @@ void ZImageButtonPrivate::drawIcon(QPainter &painter, SvgFile &icon)
         icon.render(&iconPainter, q->rect());
         return rendered;
     });
-    drawStretched(painter, iconRect, picture, q->rect(), stretchedIcon);
+    stretchedIcon.draw(painter, iconRect, picture, q->rect());
 }
 
 ZImageButton::ZImageButton(QWidget *parent)

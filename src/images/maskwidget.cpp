@@ -1,6 +1,7 @@
 #include "maskwidget.h"
 
 #include "affordable_p.h"
+#include "stretchedpicture_p.h"
 
 #include <QPainter>
 #include <cmath>
@@ -10,6 +11,16 @@ Q_WIDGETS_EXPORT void qt_blurImage(QPainter *painter, QImage &image, qreal radiu
                                    bool alphaOnly, int transposed = 0);
 
 namespace ZIRVOUI {
+
+struct MaskWidgetPrivate
+{
+    int distance = 100; // pixels
+    double opacity = 1;
+    double blurRadius = 60; // pixels
+    QPixmap picture;
+    QPixmap blurredPicture;
+    StretchedPicture stretchedPicture;
+};
 
 namespace {
 
@@ -46,6 +57,7 @@ bool canBeFramed(const QSize &size, int distance)
 
 MaskWidget::MaskWidget(QWidget *parent)
     : QWidget(parent)
+    , d(new MaskWidgetPrivate)
 {
 }
 
@@ -53,67 +65,70 @@ MaskWidget::~MaskWidget() = default;
 
 void MaskWidget::setDistance(int distance)
 {
-    m_distance = distance;
+    d->distance = distance;
 }
 
 int MaskWidget::distance()
 {
-    return m_distance;
+    return d->distance;
 }
 
 void MaskWidget::setOpacity(double opacity)
 {
-    m_opacity = opacity;
+    d->opacity = opacity;
 }
 
 double MaskWidget::opacity()
 {
-    return m_opacity;
+    return d->opacity;
 }
 
 void MaskWidget::setBlurRadius(double radius)
 {
-    m_blurRadius = radius;
+    d->blurRadius = radius;
 }
 
 double MaskWidget::blurRadius()
 {
-    return m_blurRadius;
+    return d->blurRadius;
 }
 
 void MaskWidget::setPixmap(const QPixmap &picture)
 {
-    m_picture = picture;
-    if (!std::isfinite(m_blurRadius) || m_distance + m_blurRadius <= 0) {
-        m_blurredPicture = picture;
+    d->picture = picture;
+    if (!std::isfinite(d->blurRadius) || d->distance + d->blurRadius <= 0) {
+        d->blurredPicture = picture;
         return;
     }
-    m_blurredPicture = {};
+    d->blurredPicture = {};
     if (picture.isNull())
         return;
-    if (canBeFramed(picture.size(), m_distance)) {
-        const QImage image = blurred(framed(picture, m_distance), m_blurRadius);
-        m_blurredPicture
-            = QPixmap::fromImage(image).copy({QPoint(m_distance, m_distance), picture.size()});
+    if (canBeFramed(picture.size(), d->distance)) {
+        const QImage image = blurred(framed(picture, d->distance), d->blurRadius);
+        d->blurredPicture
+            = QPixmap::fromImage(image).copy({QPoint(d->distance, d->distance), picture.size()});
     }
     update();
 }
 
 QPixmap MaskWidget::pixmap() const
 {
-    return m_picture;
+    return d->picture;
 }
 
 QSize MaskWidget::sizeHint() const
 {
-    return m_picture.isNull() ? QWidget::sizeHint() : m_picture.size();
+    return d->picture.isNull() ? QWidget::sizeHint() : d->picture.size();
 }
 
 void MaskWidget::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setOpacity(m_opacity);
-    painter.drawPixmap(QRectF(rect()), m_blurredPicture, QRectF());
+    painter.setOpacity(d->opacity);
+    if (d->opacity >= 1) // another would fade the kept picture otherwise than the scaled one
+        d->stretchedPicture.draw(painter, rect(), d->blurredPicture, rect());
+    else
+        painter.drawPixmap(QRectF(rect()), d->blurredPicture, QRectF());
 }
 
 } // namespace ZIRVOUI

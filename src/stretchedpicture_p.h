@@ -1,0 +1,29 @@
+#ifndef STRETCHEDPICTURE_P_H
+#define STRETCHEDPICTURE_P_H
+
+#include "kept_p.h"
+
+#include <QPixmap>
+
+class QPainter;
+
+namespace ZIRVOUI {
+
+/*! How many pixels of the device under \a painter a pixel of its coordinates takes. */
+double pixelRatio(const QPainter &painter);
+
+/*! Draws a picture as QPainter scales it, and keeps what it has scaled. */
+class StretchedPicture
+{
+public:
+    /*! What reaches beyond \a bounds may be of any size: it is scaled each time. */
+    void draw(QPainter &painter, const QRectF &target, const QPixmap &picture,
+              const QRectF &bounds);
+
+private:
+    Kept<QPixmap, qint64, QSize, double> m_scaled;
+};
+
+} // namespace ZIRVOUI
+
+#endif
