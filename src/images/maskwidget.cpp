@@ -1,6 +1,7 @@
 #include "maskwidget.h"
 
 #include "affordable_p.h"
+#include "kept_p.h"
 #include "stretchedpicture_p.h"
 
 #include <QPainter>
@@ -19,6 +20,8 @@ struct MaskWidgetPrivate
     double blurRadius = 60; // pixels
     QPixmap picture;
     QPixmap blurredPicture;
+
+    Kept<QPixmap, qint64, int, double> blurred;
     StretchedPicture stretchedPicture;
 };
 
@@ -37,13 +40,15 @@ QImage framed(const QPixmap &picture, int distance)
     return image;
 }
 
-QImage blurred(QImage image, double radius)
+QPixmap blurred(const QPixmap &picture, int distance, double radius)
 {
+    QImage image = framed(picture, distance);
     QImage result(image.size(), image.format());
     result.fill(0);
     QPainter painter(&result);
     qt_blurImage(&painter, image, radius, true, false);
-    return result;
+    painter.end();
+    return QPixmap::fromImage(result).copy({QPoint(distance, distance), picture.size()});
 }
 
 bool canBeFramed(const QSize &size, int distance)
@@ -104,9 +109,9 @@ void MaskWidget::setPixmap(const QPixmap &picture)
     if (picture.isNull())
         return;
     if (canBeFramed(picture.size(), d->distance)) {
-        const QImage image = blurred(framed(picture, d->distance), d->blurRadius);
-        d->blurredPicture
-            = QPixmap::fromImage(image).copy({QPoint(d->distance, d->distance), picture.size()});
+        d->blurredPicture = d->blurred.of({picture.cacheKey(), d->distance, d->blurRadius}, [&] {
+            return blurred(picture, d->distance, d->blurRadius);
+        });
     }
     update();
 }
