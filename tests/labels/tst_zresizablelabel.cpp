@@ -86,14 +86,17 @@ private Q_SLOTS:
     void staysResponsive()
     {
         for (const QString &text : {QString(3000, 'x'), QString("word ").repeated(20000)}) {
-            for (const int width : {70, QWIDGETSIZE_MAX, INT_MAX}) {
+            for (const int width : {70, QWIDGETSIZE_MAX}) {
                 ZResizableLabel label(text);
-                label.setMaxSize({width, qMax(width, QWIDGETSIZE_MAX)});
+                label.setMaxSize({width, QWIDGETSIZE_MAX});
                 QElapsedTimer timer;
+                timer.start();
+                label.fontMetrics().boundingRect(label.rect(), Qt::TextWordWrap, text);
+                const qint64 once = timer.nsecsElapsed();
                 timer.start();
                 for (int i = 0; i < 1000; ++i)
                     label.sizeHint();
-                QVERIFY2(timer.elapsed() < 6000, "with sanitizers as well");
+                QVERIFY(timer.nsecsElapsed() < 1000 * once); // of 335,000 boxes, 1000 times
             }
         }
     }
