@@ -10,7 +10,7 @@ namespace ZIRVOUI {
 
 struct ZScrollLabelPrivate;
 
-enum ScrollDirection {
+enum ScrollDirection : int {
     ScrollHorizontal = 0, //!< The text moves leftwards.
     ScrollVertical = 1 //!< The text moves upwards, half a step at a time.
 };

@@ -175,9 +175,9 @@ void ZBaseDialog::drawBody(QPainter &painter, const QRect &exposed)
     const QRect body = insetRect(qBound(-MaxShadowWidth, m_shadowWidth, MaxShadowWidth));
     painter.setRenderHint(QPainter::Antialiasing, false);
     // A child that moves exposes a rectangle that no corner reaches.
-    const int corner = qMin(m_radius, MaxShadowWidth);
+    const int corner = qBound(0, m_radius, MaxShadowWidth);
     const QRect middle = body.adjusted(corner, corner, -corner, -corner);
-    if (corner >= 0 && middle.isValid() && middle.contains(exposed))
+    if (m_radius >= 0 && middle.isValid() && middle.contains(exposed))
         painter.fillRect(exposed, m_backgroundColor);
     else
         painter.fillPath(getDrawPath(body, m_radiusType), m_backgroundColor);
