@@ -12,26 +12,15 @@ using ZIRVOUI::LineEdit;
 
 namespace {
 
-// The one colour of all that is seen, as far as it shines through; invalid if there are more.
-QColor inkOf(QWidget &widget)
+// The same picture, were all that is seen in it of one colour.
+QImage colored(const QImage &picture, const QColor &color)
 {
-    const QImage picture = snapshot(widget).convertToFormat(QImage::Format_ARGB32);
-    QSet<QRgb> opaque;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (qAlpha(picture.pixel(x, y)) > 250)
-                opaque.insert(picture.pixel(x, y) | 0xff000000);
-        }
-    }
-    return opaque.size() == 1 ? QColor(*opaque.cbegin()) : QColor();
+    return reference(picture.size(), [&](QPainter &painter) {
+        painter.drawImage(0, 0, picture);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(picture.rect(), color);
+    });
 }
-
-struct Doubling : QValidator
-{
-    using QValidator::QValidator;
-    State validate(QString &, int &) const override { return Intermediate; }
-    void fixup(QString &text) const override { text += text; }
-};
 
 } // namespace
 
@@ -54,30 +43,25 @@ private Q_SLOTS:
             edit.setFontSize(0);
             QCOMPARE(edit.font().pixelSize(), 40);
             edit.setText("HI");
-            QCOMPARE(inkOf(edit), QColor(Qt::white));
+            COMPARE_PICTURES(snapshot(edit), colored(snapshot(edit), Qt::white));
             edit.setPalette(QPalette(Qt::red));
             edit.setFrame(true);
             edit.setupStyle();
             edit.setEnabled(false);
-            QCOMPARE(inkOf(edit), QColor(120, 120, 120));
+            COMPARE_PICTURES(snapshot(edit), colored(snapshot(edit), QColor(120, 120, 120)));
+            QVERIFY(snapshot(edit) != blankPicture(edit.size()));
         }
     }
 
     void tellsWhoHasTheFocus()
     {
         QWidget form;
-        form.resize(100, 120);
-        QLineEdit stock, otherStock;
-        LineEdit first, second;
-        m_log.clear();
-        for (QLineEdit *field : {&stock, static_cast<QLineEdit *>(&first),
-                                 static_cast<QLineEdit *>(&second), &otherStock}) {
-            const int row = form.children().size();
-            field->setParent(&form);
-            field->setGeometry(0, 30 * row, 100, 30);
-            field->setObjectName(QString::number(row));
-        }
+        QLineEdit stock(&form);
+        LineEdit first(&form), second(&form);
+        first.move(0, 40);
+        second.move(0, 80);
         for (LineEdit *field : {&first, &second}) {
+            field->setObjectName(field == &first ? "1" : "2");
             connect(field, SIGNAL(signal_focusIn(QWidget *)), SLOT(noteIn(QWidget *)),
                     Qt::QueuedConnection);
             connect(field, &LineEdit::signal_focusOut, this, &TestLineEdit::noteOut,
@@ -89,8 +73,6 @@ private Q_SLOTS:
 
         stock.setFocus();
         QTest::keyClick(&stock, Qt::Key_Tab);
-        QVERIFY(otherStock.hasFocus());
-        QTest::keyClick(&otherStock, Qt::Key_Tab, Qt::ShiftModifier);
         QVERIFY(stock.hasFocus());
         Finger(first).tap(first.rect().center());
         Finger(first).tap(first.rect().center());
@@ -104,36 +86,34 @@ private Q_SLOTS:
     {
         LineEdit edit;
         edit.setValidator(new IPValidator(&edit));
-        const auto compose = [&](const QString &preedit, const QString &commit) {
-            QInputMethodEvent event(preedit, {});
+        const auto compose = [&](const QString &commit) {
+            QInputMethodEvent event;
             event.setCommitString(commit);
             QCoreApplication::sendEvent(&edit, &event);
             return edit.text();
         };
-        QCOMPARE(compose("19", QString()), QString());
-        QCOMPARE(compose(QString(), "19"), QString("19"));
-        QCOMPARE(compose(QString(), "2.x"), QString("19"));
-        const auto pasted = [&](const QString &text) {
-            QGuiApplication::clipboard()->setText(text);
-            edit.paste();
-            return edit.text();
-        };
-        QCOMPARE(pasted("2.168.1.1.1"), QString("19"));
-        QCOMPARE(pasted("2.168.1.1"), QString("192.168.1.1"));
+        QCOMPARE(compose("19"), QString("19"));
+        QCOMPARE(compose("2.x"), QString("19"));
+        QGuiApplication::clipboard()->setText("2.168.1.1.1");
+        edit.paste();
+        QCOMPARE(edit.text(), QString("19"));
+        QGuiApplication::clipboard()->setText("2.168.1.1");
+        edit.paste();
+        QCOMPARE(edit.text(), QString("192.168.1.1"));
     }
 
     void fixesItsText()
     {
         LineEdit edit;
         QSignalSpy changes(&edit, &QLineEdit::textChanged);
-        edit.setText("a");
+        edit.setText("007");
         edit.setCursorPosition(0);
         edit.fixUp();
-        QCOMPARE(edit.cursorPosition(), 1);
+        QCOMPARE(edit.cursorPosition(), 3);
         QCOMPARE(changes.size(), 1);
-        edit.setValidator(new Doubling(&edit));
+        edit.setValidator(new QIntValidator(&edit));
         edit.fixUp();
-        QCOMPARE(edit.text(), QString("aa"));
+        QCOMPARE(edit.text(), QString("7"));
     }
 
 public Q_SLOTS:

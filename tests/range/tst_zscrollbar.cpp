@@ -13,11 +13,6 @@ using ZIRVOUI::ZScrollBar;
 
 namespace {
 
-const QColor Handle("#717582");
-const QColor Hovered = Handle.darker(120);
-const QColor Pressed = Hovered.darker(140);
-const QColor Touched = Handle.darker(140);
-
 struct Bar : ZScrollBar
 {
     using ZScrollBar::ZScrollBar;
@@ -28,13 +23,6 @@ struct Bar : ZScrollBar
         initStyleOption(&option);
         return style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider,
                                        this);
-    }
-
-    void mouse(QEvent::Type type, const QPoint &at)
-    {
-        const bool moves = type == QEvent::MouseMove;
-        QMouseEvent event(type, at, moves ? Qt::NoButton : Qt::LeftButton, Qt::NoButton, {});
-        QCoreApplication::sendEvent(this, &event);
     }
 };
 
@@ -56,49 +44,36 @@ QImage expected(const Bar &bar, const QColor &track, const QColor &handle)
     });
 }
 
-/*! A window that scrolls a tall content, and where it has been scrolled to. */
-struct Scroller : QScrollArea
+// The values that a bar takes as it scrolls a tall content, in all ways.
+QVector<int> scrolled(QScrollBar *bar)
 {
-    explicit Scroller(QScrollBar *bar)
-    {
-        auto *content = new QWidget;
-        content->setFixedSize(100, 3000);
-        setVerticalScrollBar(bar);
-        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-        setWidget(content);
-        resize(200, 300);
-        connect(bar, &QScrollBar::valueChanged, this, [this](int value) { values << value; });
-    }
-
     QVector<int> values;
-};
+    QScrollArea area;
+    area.setWidget(new QWidget);
+    area.widget()->setFixedSize(100, 3000);
+    area.setVerticalScrollBar(bar);
+    area.resize(200, 300);
+    QObject::connect(bar, &QScrollBar::valueChanged, [&](int value) { values << value; });
+    area.show();
+    if (!QTest::qWaitForWindowExposed(&area))
+        return {};
 
-void tap(QScrollBar *bar, const QPoint &at)
-{
-    Finger(*bar).tap(at);
-}
-
-void scrollInAllWays(Scroller &area)
-{
-    QScrollBar *bar = area.verticalScrollBar();
     const QPoint top(bar->width() / 2, 30), bottom(bar->width() / 2, bar->height() - 30);
     Finger finger(*bar);
     finger.press(top);
     finger.move({top.x(), 90});
     finger.move({top.x() - 30, 150});
     finger.release({top.x() - 30, 150});
-    area.values << bar->isSliderDown();
-    tap(bar, bottom);
-    tap(bar, {top.x(), bar->height() - 3});
-    tap(bar, top);
+    values << bar->isSliderDown();
+    finger.tap(bottom);
     for (const int key : {Qt::Key_PageDown, Qt::Key_Down, Qt::Key_Home, Qt::Key_End, Qt::Key_Up})
         QTest::keyClick(bar, Qt::Key(key));
     static QTouchDevice *screen = QTest::createTouchDevice();
     const QPoint touched = bar->mapTo(&area, bottom);
-    QWindow *window = area.windowHandle();
-    QTest::touchEvent(window, screen).press(0, touched, window);
-    QTest::touchEvent(window, screen).move(0, touched - QPoint(0, 60), window);
-    QTest::touchEvent(window, screen).release(0, touched - QPoint(0, 60), window);
+    QTest::touchEvent(&area, screen).press(0, touched, &area);
+    QTest::touchEvent(&area, screen).move(0, touched - QPoint(0, 60), &area);
+    QTest::touchEvent(&area, screen).release(0, touched - QPoint(0, 60), &area);
+    return values;
 }
 
 } // namespace
@@ -116,9 +91,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("sheet");
         for (const QString &style : QStyleFactory::keys())
             QTest::newRow(qPrintable(style)) << style << QString();
-        QTest::newRow("style sheet") << QString("Fusion")
-                                     << QString("QScrollBar { background: red; width: 31px } "
-                                                "QScrollBar::handle { min-height: 40px }");
+        const QString sheet(
+            "QScrollBar { background: red } QScrollBar::handle { min-height: 40px }");
+        QTest::newRow("style sheet") << QString("Fusion") << sheet;
     }
 
     void darkensUnderThePointer()
@@ -126,78 +101,62 @@ private Q_SLOTS:
         QFETCH(QString, style);
         QFETCH(QString, sheet);
         const QScopedPointer<QStyle> look(QStyleFactory::create(style));
+        const QColor track(0, 0, 255, 90), rests("#717582");
+        const QColor hovered = rests.darker(120), pressed = hovered.darker(140);
         for (const auto orientation : {Qt::Horizontal, Qt::Vertical}) {
             Bar bar(orientation);
             bar.setStyle(look.data());
             bar.setStyleSheet(sheet);
             bar.ensurePolished();
             orientation == Qt::Vertical ? bar.resize(20, 221) : bar.resize(220, 21);
-            bar.setSliderColor(Handle);
-            bar.setBackGroudColor(QColor(0, 0, 255, 90));
-            const auto shows = [&](const QColor &handle) {
-                return difference(snapshot(bar), expected(bar, QColor(0, 0, 255, 90), handle));
-            };
+            bar.setSliderColor(rests);
+            bar.setBackGroudColor(track);
             const QPoint on = bar.handle().topLeft(), off = bar.rect().center();
             QVERIFY(bar.handle().isValid() && !bar.handle().contains(off));
-
-            QCOMPARE(shows(Handle), QString());
-            bar.mouse(QEvent::MouseMove, on);
-            QCOMPARE(shows(Hovered), QString());
-            bar.mouse(QEvent::MouseButtonPress, on);
-            QCOMPARE(shows(Pressed), QString());
-            bar.mouse(QEvent::MouseMove, off);
-            QCOMPARE(shows(Pressed), QString());
-            bar.setValue(0);
-            bar.mouse(QEvent::MouseButtonRelease, on);
-            QCOMPARE(shows(Hovered), QString());
-            bar.mouse(QEvent::MouseButtonPress, on);
-            bar.mouse(QEvent::MouseButtonRelease, off);
-            QCOMPARE(shows(Handle), QString());
-            bar.mouse(QEvent::MouseButtonPress, on);
-            QCOMPARE(shows(Pressed), QString());
-
-            QEvent leave(QEvent::Leave);
-            QCoreApplication::sendEvent(&bar, &leave);
-            QCOMPARE(shows(Handle), QString());
-            bar.mouse(QEvent::MouseMove, on);
-            QCOMPARE(shows(Hovered), QString());
-            QCoreApplication::sendEvent(&bar, &leave);
-            bar.mouse(QEvent::MouseButtonPress, on);
-            QCOMPARE(shows(Touched), QString());
-            bar.mouse(QEvent::MouseButtonRelease, on);
-            QCOMPARE(shows(Handle), QString());
-            bar.mouse(QEvent::MouseButtonPress, off);
-            QCOMPARE(shows(Handle), QString());
+            const auto shows = [&](QEvent::Type type, const QPoint &at, const QColor &handle) {
+                const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+                QMouseEvent event(type, at, button, Qt::NoButton, {});
+                bar.setValue(0); // a press may have moved the handle
+                QCoreApplication::sendEvent(&bar, &event);
+                return difference(snapshot(bar), expected(bar, track, handle)).isEmpty();
+            };
+            QVERIFY(shows(QEvent::MouseMove, off, rests));
+            QVERIFY(shows(QEvent::MouseMove, on, hovered));
+            QVERIFY(shows(QEvent::MouseButtonPress, on, pressed));
+            QVERIFY(shows(QEvent::MouseMove, off, pressed));
+            QVERIFY(shows(QEvent::MouseButtonRelease, on, hovered));
+            QVERIFY(shows(QEvent::MouseButtonPress, on, pressed));
+            QVERIFY(shows(QEvent::MouseButtonRelease, off, rests));
+            QVERIFY(shows(QEvent::MouseButtonPress, on, pressed));
+            QVERIFY(shows(QEvent::Leave, off, rests));
+            QVERIFY(shows(QEvent::MouseMove, on, hovered));
+            QVERIFY(shows(QEvent::Leave, off, rests));
+            QVERIFY(shows(QEvent::MouseButtonPress, on, rests.darker(140)));
+            QVERIFY(shows(QEvent::MouseButtonRelease, on, rests));
+            QVERIFY(shows(QEvent::MouseButtonPress, off, rests));
         }
     }
 
     void paintsAtAllSizes()
     {
         Bar bar;
+        bar.resize(16, 100);
+        QCOMPARE(bar.orientation(), Qt::Vertical);
+        COMPARE_PICTURES(snapshot(bar), expected(bar, Qt::transparent, QColor("#717582")));
         QVERIFY(repaints(bar, [&] { bar.setBackGroudColor(Qt::green); }));
         QVERIFY(repaints(bar, [&] { bar.setSliderColor(Qt::red); }));
-        for (int width = 1; width < 8; ++width) {
+        for (int width = 1; width < 8; ++width)
             for (const int height : {1, 3, 4, 5, 60}) {
                 bar.resize(width, height);
                 COMPARE_PICTURES(snapshot(bar), expected(bar, Qt::green, Qt::red));
             }
-        }
-        Bar plain;
-        plain.resize(16, 100);
-        QCOMPARE(plain.orientation(), Qt::Vertical);
-        COMPARE_PICTURES(snapshot(plain), expected(plain, Qt::transparent, Handle));
     }
 
     void scrollsLikeAStockOne()
     {
-        Scroller stock(new QScrollBar), ours(new ZScrollBar);
-        for (Scroller *area : {&stock, &ours}) {
-            area->show();
-            QVERIFY(QTest::qWaitForWindowExposed(area));
-            scrollInAllWays(*area);
-        }
-        QVERIFY(stock.values.size() > 10);
-        QCOMPARE(ours.values, stock.values);
+        const QVector<int> values = scrolled(new ZScrollBar);
+        QVERIFY(values.size() > 8);
+        QCOMPARE(values, scrolled(new QScrollBar));
     }
 };
 
