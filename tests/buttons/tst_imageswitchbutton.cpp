@@ -1,8 +1,5 @@
-#include "picture.h"
-#include "samplefile.h"
-#include "warnings.h"
+#include "buttontest.h"
 
-#include <QtTest>
 #include <imageswitchbutton.h>
 
 using ZIRVOUI::ImageSwitchButton;

@@ -1,7 +1,4 @@
-#include "finger.h"
-#include "paintcounter.h"
-#include "picture.h"
-#include "warnings.h"
+#include "buttontest.h"
 
 #include <zbutton.h>
 
@@ -16,64 +13,25 @@ private Q_SLOTS:
 
     void paints()
     {
-        QPixmap pixmap(8, 8);
-        pixmap.fill(Qt::darkGreen);
-        QPainter(&pixmap).fillRect(2, 3, 4, 2, Qt::yellow);
         ZButton button(QStringLiteral("A && B"));
         button.setFontSize(13);
         button.setCheckable(true);
         button.setChecked(true);
-        // Every combination: the bits of the look are its states.
-        for (const int look : {0, 1, 2, 3, 4, 5, 6, 7}) {
-            const bool icon = look & 4;
-            button.setEnabled(look & 1);
-            button.setDown(look & 2);
-            button.setIcon(icon ? QIcon(pixmap) : QIcon());
-            for (const QSize size : {QSize(120, 63), QSize(61, 15)}) {
-                const QRect all(QPoint(), size);
-                const QRect text = all.adjusted(0, -(size.height() / 16), 0, 0);
-                const auto draw = [&](QPainter &painter) {
-                    painter.setRenderHint(QPainter::Antialiasing);
-                    painter.setOpacity(button.isDown() ? 0.6 : button.isEnabled() ? 1.0 : 0.3);
-                    painter.setPen(Qt::NoPen);
-                    painter.setBrush(QColor("#316AFF"));
-                    if (icon)
-                        painter.drawPixmap(all, button.icon().pixmap(size));
-                    else
-                        painter.drawRoundedRect(all, 10, 10);
-                    painter.setFont(button.font());
-                    painter.setPen(Qt::white);
-                    painter.drawText(text, Qt::AlignCenter, button.text());
-                };
-                COMPARE_PICTURES(snapshot(button, size), reference(size, draw));
-            }
+        for (const QIcon &icon : {QIcon(), QIcon(spottedPixmap())}) {
+            button.setIcon(icon);
+            compareStates(button, {{120, 63}, {61, 15}}, [&](QPainter &painter, const QRect &all) {
+                painter.setOpacity(button.isDown() ? 0.6 : button.isEnabled() ? 1.0 : 0.3);
+                painter.setPen(Qt::NoPen);
+                painter.setBrush(QColor("#316AFF"));
+                if (icon.isNull())
+                    painter.drawRoundedRect(all, 10, 10);
+                else
+                    painter.drawPixmap(all, icon.pixmap(all.size()));
+                painter.setPen(Qt::white);
+                painter.drawText(all.adjusted(0, -(all.height() / 16), 0, 0), Qt::AlignCenter,
+                                 button.text());
+            });
         }
-    }
-
-    void comesUpAfterADrag()
-    {
-        QWidget window;
-        ZButton button(&window);
-        button.setGeometry(10, 10, 100, 60);
-        button.setAutoRepeat(true);
-        button.setAutoRepeatDelay(1);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        Finger finger(button);
-
-        QSignalSpy released(&button, &QAbstractButton::released);
-        finger.press({50, 10});
-        button.setAutoRepeat(false);
-        released.clear();
-        finger.move({50, 31});
-        finger.release({50, 31});
-        QVERIFY(!button.isDown());
-        QCOMPARE(released.count(), 0);
-
-        finger.press({50, 10});
-        finger.move({90, 30});
-        finger.release({90, 30});
-        QCOMPARE(released.count(), 1);
     }
 
     void passesItsEventsToItsParent()
@@ -103,13 +61,12 @@ private Q_SLOTS:
 
         // A parent that scrolls takes the button along, so that it stays under the finger.
         Finger finger(parent);
-        const QPoint start = button.geometry().center();
-        finger.press(start);
+        finger.press({5, 5});
         for (int way = 10; way <= 30; way += 10) {
-            finger.move(start + QPoint(0, way));
+            finger.move({5, 5 + way});
             button.move(0, way);
         }
-        finger.release(start + QPoint(0, 30));
+        finger.release({5, 35});
         QCOMPARE(clicks.count(), 2);
     }
 
@@ -129,13 +86,12 @@ private Q_SLOTS:
     void lookSettersOnlyStore()
     {
         ZButton button;
-        const auto change = [&] {
+        QVERIFY(!repaints(button, [&] {
             button.setBackgroundColor(Qt::red);
             button.setFontColor(Qt::blue);
             button.setRadius(3);
             button.setFontSize(0);
-        };
-        QVERIFY(!repaints(button, change));
+        }));
         QVERIFY(repaints(button, [&] { button.setFontSize(33); }));
     }
 };

@@ -1,11 +1,6 @@
-#include "finger.h"
-#include "paintcounter.h"
-#include "picture.h"
-#include "samplefile.h"
-#include "warnings.h"
+#include "buttontest.h"
 
 #include <QSvgRenderer>
-#include <limits>
 #include <zimagebutton.h>
 #include <zsvgwidget.h>
 
@@ -23,9 +18,7 @@ private Q_SLOTS:
     {
         SampleFile svg(QStringLiteral("icon.svg"));
         svg.writeSvg("purple");
-        QPixmap pixmap(7, 5);
-        pixmap.fill(Qt::darkCyan);
-        QPainter(&pixmap).fillRect(1, 1, 4, 2, Qt::yellow);
+        const QPixmap pixmap = spottedPixmap();
         SampleFile bitmap(QStringLiteral("ground.png"));
         pixmap.save(bitmap.path());
 
@@ -37,32 +30,27 @@ private Q_SLOTS:
         button.setRadius(9);
         button.setTextRect({5, 20, 60, 15});
         button.setIcoRect({40, 3, 31, 17});
-        // Every combination: the bits of the look are its states.
-        for (const int look : {0, 1, 2, 3, 4, 5, 6, 7}) {
-            const int border = look & 1 ? 5 : 0;
-            const QSize size = look & 1 ? QSize(77, 51) : QSize(100, 40);
+        for (const int border : {0, 5}) {
             const int inset = border / 2;
-            const QRectF ground = QRectF(QPointF(), size).adjusted(inset, inset, -inset, -inset);
-            button.setBorderWidth(border);
-            button.setBgPicture(look & 4 ? bitmap.path() : QString());
-            button.setEnabled(look & 2);
-            button.setDown(look > 4);
-            const auto icon = [&](QPainter &p) { QSvgRenderer(svg.path()).render(&p); };
-            const auto draw = [&](QPainter &painter) {
-                painter.setRenderHint(QPainter::Antialiasing);
-                painter.setOpacity(button.isDown() ? 0.6 : button.isEnabled() ? 1.0 : 0.3);
-                painter.setPen(border > 0 ? QPen(Qt::black, border) : Qt::NoPen);
-                painter.setBrush(QColor(90, 200, 30, 150));
-                painter.drawRoundedRect(ground, 9, 9);
-                if (look & 4)
-                    painter.drawPixmap(ground, pixmap, QRectF());
-                painter.setRenderHint(QPainter::Antialiasing, false);
-                painter.drawImage(QRectF(40, 3, 31, 17), reference(size, icon));
-                painter.setFont(button.font());
-                painter.setPen(Qt::blue);
-                painter.drawText(QRect(5, 20, 60, 15), Qt::AlignCenter, button.text());
-            };
-            COMPARE_PICTURES(snapshot(button, size), reference(size, draw));
+            for (const QString &path : {QString(), bitmap.path()}) {
+                button.setBorderWidth(border);
+                button.setBgPicture(path);
+                const auto draw = [&](QPainter &painter, const QRect &all) {
+                    const QRectF ground = all.adjusted(inset, inset, -inset, -inset);
+                    const auto icon = [&](QPainter &p) { QSvgRenderer(svg.path()).render(&p); };
+                    painter.setOpacity(button.isDown() ? 0.6 : button.isEnabled() ? 1.0 : 0.3);
+                    painter.setPen(border > 0 ? QPen(Qt::black, border) : Qt::NoPen);
+                    painter.setBrush(QColor(90, 200, 30, 150));
+                    painter.drawRoundedRect(ground, 9, 9);
+                    if (!path.isEmpty())
+                        painter.drawPixmap(ground, pixmap, QRectF());
+                    painter.setRenderHint(QPainter::Antialiasing, false);
+                    painter.drawImage(QRectF(40, 3, 31, 17), reference(all.size(), icon));
+                    painter.setPen(Qt::blue);
+                    painter.drawText(QRect(5, 20, 60, 15), Qt::AlignCenter, button.text());
+                };
+                compareStates(button, {{100, 40}, {77, 51}}, draw);
+            }
         }
     }
 
@@ -110,7 +98,7 @@ private Q_SLOTS:
             button.click();
             QCOMPARE(sign->isVisibleTo(&button), shown);
         }
-        button.setSingSize(-1, std::numeric_limits<int>::max());
+        button.setSingSize(-1, Huge);
         QCOMPARE(sign->maximumSize(), QSize(0, QWIDGETSIZE_MAX));
     }
 

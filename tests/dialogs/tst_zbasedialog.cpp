@@ -117,13 +117,10 @@ private Q_SLOTS:
         // As wide as the shadow itself asks for, and shown in a window of the usual size.
         QWidget window;
         window.resize(640, 480);
-        auto *wide = new ZBaseDialog(&window);
-        wide->setShadowEffectWidth(1000000);
-        wide->setFixedSize(300, 200);
-        wide->show();
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        wide->repaint();
+        ZBaseDialog wide(&window);
+        wide.setShadowEffectWidth(1000000);
+        wide.setFixedSize(300, 200);
+        QVERIFY(repaints(window, [&] { wide.show(); }));
         QVERIFY(timer.elapsed() < 5000);
     }
 
@@ -162,11 +159,10 @@ private Q_SLOTS:
     {
         QWidget window;
         ZBaseDialog child(&window);
-        auto *part = new ZBaseDialog;
         QHBoxLayout layout(&window);
-        layout.addWidget(part);
+        layout.addWidget(new ZBaseDialog);
         window.show();
-        QVERIFY(!child.isVisible() && part->isVisible());
+        QVERIFY(!child.isVisible() && layout.itemAt(0)->widget()->isVisible());
         QVERIFY(!repaints(child, [&] {
             child.setShadowEffectWidth(3);
             child.setShadowEffectColor(Qt::red);

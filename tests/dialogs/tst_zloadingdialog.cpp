@@ -27,7 +27,8 @@ private Q_SLOTS:
         QCOMPARE(dialog.size(), QSize(960, 624));
         QCOMPARE(spinner, QRect((960 - 90) / 2, spinner.y(), 90, 90));
         QCOMPARE(label->y(), spinner.bottom() + 1 + 70);
-        QVERIFY(label->wordWrap());
+        QCOMPARE(label->text(), Text);
+        QVERIFY(label->wordWrap() && label->alignment() == Qt::AlignCenter);
 
         dialog.setSpacing(100);
         dialog.setInfoText({});
@@ -38,49 +39,38 @@ private Q_SLOTS:
 
     void closesItselfUnlessTheTimeIsNegative()
     {
-        const QPair<int, int> times[] = {{0, 0}, {120, 120}, {-1, 80}, {60000, 30}};
-        for (const auto &[constructed, set] : times) {
-            ZLoadingDialog dialog(Text, constructed);
-            if (set != constructed)
-                dialog.setTimeNum(set);
+        for (const int time : {0, 120}) {
+            ZLoadingDialog dialog(Text, time);
             QElapsedTimer timer;
             timer.start();
             dialog.show();
-            dialog.setTimeNum(-1);
-            QVERIFY(dialog.isVisible());
-            QTRY_VERIFY(!dialog.isVisible());
-            QVERIFY(timer.elapsed() >= set - 1);
-            dialog.setTimeNum(set);
-            QCOMPARE(dialog.exec(), int(QDialog::Rejected));
-
             dialog.setTimeNum(-7);
+            QTRY_VERIFY(!dialog.isVisible());
+            QVERIFY(timer.elapsed() >= time * 9 / 10); // Qt may be early
             dialog.show();
             QTest::qWait(60);
             QVERIFY(dialog.isVisible());
+            dialog.setTimeNum(time);
+            QCOMPARE(dialog.exec(), int(QDialog::Rejected));
         }
     }
 
     void countsAnewAfterHiding()
     {
         QWidget window;
-        ZLoadingDialog dialog(Text, 150, &window);
+        ZLoadingDialog dialog(Text, 50, &window);
         const std::function<void()> ways[] = {[&] { dialog.accept(); }, [&] { window.hide(); }};
         for (const auto &hide : ways) {
             window.show();
             dialog.show();
-            QTest::qWait(50);
             hide();
             QVERIFY(!dialog.isVisible());
-
             window.show();
             static_cast<QWidget &>(dialog).show(); // which counts nothing
-            QTest::qWait(200);
+            QTest::qWait(100);
             QVERIFY(dialog.isVisible());
-            QElapsedTimer timer;
-            timer.start();
             dialog.show();
             QTRY_VERIFY(!dialog.isVisible());
-            QVERIFY(timer.elapsed() >= 149);
         }
     }
 

@@ -77,11 +77,10 @@ private Q_SLOTS:
         QElapsedTimer timer;
         timer.start();
         for (double value : {qQNaN(), qInf(), -qInf(), Huge, -Huge, 1e12, -1e12, 40000.0, 0.0}) {
-            for (double other : {3.0, value}) {
-                draw(value, other, other);
-                draw(5, value, other);
-                draw(5, value, value);
-            }
+            draw(value, 3, 3);
+            draw(5, 3, value);
+            draw(5, value, 3);
+            draw(value, value, value);
         }
         QVERIFY(timer.elapsed() < 3000);
         COMPARE_PICTURES(draw(qQNaN(), 5, 0), blankPicture(spinner.size()));

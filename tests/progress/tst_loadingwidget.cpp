@@ -14,29 +14,27 @@ private Q_SLOTS:
 
     void paints()
     {
-        const QMap<int, int> widthsAfterSteps = {{20, 7}, {30, 45}, {179, 10}, {181, 10}};
         QConicalGradient gradient(0, 0, 0);
         gradient.setStops({{0.0, "#316AFF"}, {1.0, Qt::white}});
         LoadingWidget spinner;
         spinner.stop();
-        for (int steps = 1; steps <= 181; ++steps) {
-            spinner.updateRotate();
-            if (!widthsAfterSteps.contains(steps))
-                continue;
-            const int width = widthsAfterSteps.value(steps);
+        int turned = 0;
+        for (const auto &[steps, width] : {std::make_pair(20, 7), {30, 45}, {179, 10}, {181, 10}}) {
+            for (; turned < steps; ++turned)
+                spinner.updateRotate();
             spinner.setWidth(width);
+            const double line = width;
+            const int half = width / 2;
             comparePictures(
                 spinner, {{90, 90}, {201, 101}}, [&](QPainter &painter, const QSize &size) {
                     const int radius = size.height() / 2;
-                    const int half = width / 2;
                     const int diameter = 2 * (radius - half);
                     painter.translate(size.width() / 2, radius);
-                    painter.rotate(2 * steps % 360);
-                    painter.setPen(
-                        {gradient, double(width), Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin});
+                    painter.rotate(2 * turned % 360);
+                    painter.setPen({gradient, line, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin});
                     painter.drawArc(half - radius, half - radius, diameter, diameter, 0, 5760);
-                    QPainterPath head(QPointF(radius - width, 0));
-                    head.arcTo(radius - width, -half, width, width, 0, 360);
+                    QPainterPath head(QPointF(radius - line, 0));
+                    head.arcTo(radius - line, -half, line, line, 0, 360);
                     painter.fillPath(head, QColor("#316AFF"));
                 });
         }
@@ -83,6 +81,23 @@ private Q_SLOTS:
         spinner.start();
         QVERIFY(paintsOnlyWhenShown(spinner));
         QVERIFY(turns());
+    }
+
+    void sharesTheFramesOfItsWindow()
+    {
+        QWidget window;
+        for (int i = 0; i < 5; ++i) {
+            auto *spinner = new LoadingWidget(&window);
+            spinner->move(100 * i, 0);
+            QTest::qWait(i); // for its timer to have a phase of its own
+        }
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        PaintCounter frames(window);
+        frames.take();
+        QTest::qWait(480); // 30 frames, and 80 ticks of each spinner
+        const int count = frames.take();
+        QVERIFY2(count > 2 && count < 45, qPrintable(QString::number(count)));
     }
 };
 

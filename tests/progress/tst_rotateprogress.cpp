@@ -9,8 +9,7 @@ using ZIRVOUI::RotateProgress;
 
 namespace {
 
-/*! The figure at an instant of its turn, which lasts 2800 ms, and of the burst
- * after it. */
+/*! The figure at an instant of its turn, which lasts 2800 ms, and of the burst after it. */
 void drawFigure(QPainter &painter, const QSize &size, int turn, int burst)
 {
     const QPoint center((size.width() - 1) / 2, (size.height() - 1) / 2);
@@ -42,8 +41,7 @@ void drawFigure(QPainter &painter, const QSize &size, int turn, int burst)
     painter.drawEllipse(center.x() - half, center.y() - half, 2 * half, 2 * half);
 }
 
-/*! Holds the animations, which \a widget has in the order of their phases, at
- * an instant. */
+/*! Holds the animations, which \a widget has in the order of their phases, at an instant. */
 void hold(const RotateProgress &widget, int time)
 {
     const auto animations = widget.findChildren<QVariantAnimation *>();
@@ -89,8 +87,9 @@ private Q_SLOTS:
             widget.startAnmition();
             hold(widget, time);
         }
-        const auto draw = [](auto &painter, auto &size) { drawFigure(painter, size, 1400, 200); };
-        comparePictures(widget, {{420, 420}}, draw);
+        comparePictures(widget, {{420, 420}}, [](QPainter &painter, const QSize &size) {
+            drawFigure(painter, size, 1400, 200);
+        });
     }
 };
 
