@@ -1,14 +1,9 @@
 #ifndef BUTTONTEST_H
 #define BUTTONTEST_H
 
-#include "finger.h"
-#include "paintcounter.h"
-#include "picture.h"
-#include "samplefile.h"
-#include "warnings.h"
+#include "widgettest.h"
 
 #include <QAbstractButton>
-#include <limits>
 
 constexpr int Huge = std::numeric_limits<int>::max();
 

@@ -1,10 +1,6 @@
-#include "paintcounter.h"
-#include "picture.h"
-#include "warnings.h"
+#include "widgettest.h"
 
 #include <QHBoxLayout>
-#include <QtTest>
-#include <limits>
 #include <zbasedialog.h>
 
 using ZIRVOUI::ZBaseDialog;

@@ -1,7 +1,6 @@
-#include "warnings.h"
+#include "widgettest.h"
 
 #include <QLayout>
-#include <QtTest>
 #include <loadingwidget.h>
 #include <zclicklabel.h>
 #include <zloadingdialog.h>

@@ -1,9 +1,6 @@
-#include "picture.h"
-#include "warnings.h"
+#include "widgettest.h"
 
 #include <QSvgRenderer>
-#include <QtTest>
-#include <limits>
 #include <zclicklabel.h>
 #include <zsvgwidget.h>
 #include <ztoastdialog.h>

@@ -1,9 +1,5 @@
-#include "paintcounter.h"
-#include "picture.h"
-#include "warnings.h"
+#include "widgettest.h"
 
-#include <QtTest>
-#include <climits>
 #include <maskwidget.h>
 
 using ZIRVOUI::MaskWidget;

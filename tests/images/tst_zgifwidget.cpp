@@ -1,12 +1,7 @@
-#include "paintcounter.h"
-#include "picture.h"
-#include "samplefile.h"
-#include "warnings.h"
+#include "widgettest.h"
 
 #include <QMovie>
 #include <QPointer>
-#include <QtTest>
-#include <climits>
 #include <zgifwidget.h>
 
 using ZIRVOUI::ZGifWidget;

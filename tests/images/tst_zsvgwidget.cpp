@@ -1,11 +1,7 @@
-#include "paintcounter.h"
-#include "picture.h"
-#include "samplefile.h"
-#include "warnings.h"
+#include "widgettest.h"
 
 #include <QIcon>
 #include <QSvgRenderer>
-#include <QtTest>
 #include <zsvgwidget.h>
 
 using ZIRVOUI::ZSvgWidget;

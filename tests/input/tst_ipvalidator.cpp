@@ -1,7 +1,6 @@
-#include "warnings.h"
+#include "widgettest.h"
 
 #include <QLineEdit>
-#include <QtTest>
 #include <algorithm>
 #include <ipvalidator.h>
 

@@ -1,6 +1,4 @@
-#include "finger.h"
-#include "picture.h"
-#include "warnings.h"
+#include "widgettest.h"
 
 #include <QClipboard>
 #include <QStyle>

@@ -1,8 +1,6 @@
-#include "picture.h"
-#include "warnings.h"
+#include "widgettest.h"
 
 #include <QLayout>
-#include <QtTest>
 #include <commonlabelwidget.h>
 #include <zclicklabel.h>
 

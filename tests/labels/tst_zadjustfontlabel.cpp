@@ -1,10 +1,6 @@
-#include "paintcounter.h"
-#include "picture.h"
-#include "warnings.h"
+#include "widgettest.h"
 
 #include <QTextOption>
-#include <QtTest>
-#include <climits>
 #include <zadjustfontlabel.h>
 
 using namespace ZIRVOUI;

@@ -1,12 +1,7 @@
-#include "finger.h"
-#include "paintcounter.h"
-#include "picture.h"
-#include "samplefile.h"
-#include "warnings.h"
+#include "widgettest.h"
 
 #include <QPainterPath>
 #include <QSvgRenderer>
-#include <limits>
 #include <zclicklabel.h>
 
 using ZIRVOUI::ZClickLabel;

@@ -1,10 +1,6 @@
-#include "paintcounter.h"
-#include "picture.h"
-#include "warnings.h"
+#include "widgettest.h"
 
 #include <QTextDocument>
-#include <QtTest>
-#include <climits>
 #include <zresizablelabel.h>
 
 using ZIRVOUI::ZResizableLabel;

@@ -1,10 +1,6 @@
-#include "paintcounter.h"
-#include "picture.h"
-#include "warnings.h"
+#include "widgettest.h"
 
 #include <QAbstractEventDispatcher>
-#include <QtTest>
-#include <climits>
 #include <zscrolllabel.h>
 
 using namespace ZIRVOUI;

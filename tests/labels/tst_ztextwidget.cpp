@@ -1,9 +1,6 @@
-#include "paintcounter.h"
-#include "picture.h"
-#include "warnings.h"
+#include "widgettest.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QtTest>
 #include <ztextwidget.h>
 
 using ZIRVOUI::ZTextWidget;

@@ -1,13 +1,7 @@
 #ifndef PROGRESSTEST_H
 #define PROGRESSTEST_H
 
-#include "paintcounter.h"
-#include "picture.h"
-#include "warnings.h"
-
-#include <QtTest>
-#include <climits>
-#include <limits>
+#include "widgettest.h"
 
 constexpr double Huge = std::numeric_limits<double>::max();
 

@@ -1,7 +1,4 @@
-#include "finger.h"
-#include "paintcounter.h"
-#include "picture.h"
-#include "warnings.h"
+#include "widgettest.h"
 
 #include <QPainterPath>
 #include <QScrollArea>

@@ -1,9 +1,5 @@
-#include "finger.h"
-#include "paintcounter.h"
-#include "picture.h"
-#include "warnings.h"
+#include "widgettest.h"
 
-#include <climits>
 #include <zslider.h>
 
 using ZIRVOUI::ZSlider;

@@ -1,0 +1,15 @@
+#ifndef WIDGETTEST_H
+#define WIDGETTEST_H
+
+// What the test of a widget is made of.
+#include "finger.h"
+#include "paintcounter.h"
+#include "picture.h"
+#include "samplefile.h"
+#include "warnings.h"
+
+#include <QtTest>
+#include <climits>
+#include <limits>
+
+#endif
