@@ -33,8 +33,7 @@ public:
 
     /*! Hides QLabel::setText(), which does not see whether the text fits.  Repaints. */
     void setText(const QString &text);
-    /*! Pixels per tick, 1 by default; text of a negative step leaves and returns once.  Repaints.
-     */
+    /*! Pixels per tick, 1 by default; with a negative one the text leaves for good.  Repaints. */
     void setStep(int step);
     /*! Pixels between the text and its copy that follows, 72 by default.  Repaints. */
     void setSpacing(int spacing);

@@ -24,7 +24,7 @@ struct ZScrollLabelPrivate
     Kept<int, QString, QFont> textWidth;
     Kept<std::unique_ptr<LaidOutText>, QString, QFont, Qt::LayoutDirection> laidOutText;
 
-    static constexpr int NoTimer = -1;
+    static constexpr int NoTimer = 0; // as QObject::startTimer() has it
 };
 
 namespace {
