@@ -54,7 +54,7 @@ private Q_SLOTS:
     {
         QRandomGenerator random(1);
         const QString characters = QStringLiteral("....00112255679a -+");
-        for (int i = 0; i < 200000; ++i) {
+        for (int i = 0; i < 50000; ++i) {
             QString text;
             for (int length = random.bounded(16); length > 0; --length)
                 text += characters[random.bounded(characters.size())];

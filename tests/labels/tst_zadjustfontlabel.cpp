@@ -50,14 +50,14 @@ private Q_SLOTS:
                                  "Warning\n\nThe door is open\n",
                                  QString(9, ' '),
                                  QString(9, QChar(0x200b)),
-                                 QString("many words ").repeated(30),
+                                 QString("many words ").repeated(12),
                                  QString::fromUtf8("ab שלום עולם مرحبا 漢字 😀 \t e\u0301"),
                                  QString("A long variant") + QChar(0x9c) + "short"};
         for (const QString &text : texts) {
             ZAdjustFontLabel label(text);
-            for (const QSize size : {QSize(1, 1), QSize(7, 160), QSize(121, 33), QSize(300, 150)}) {
+            for (const QSize size : {QSize(1, 1), QSize(7, 60), QSize(121, 33), QSize(160, 70)}) {
                 label.resize(size);
-                QVERIFY2(takesTheLargest(label, 1, 160), qPrintable(text));
+                QVERIFY2(takesTheLargest(label, 1, 70), qPrintable(text));
                 QVERIFY2(takesTheLargest(label, 14, 15), qPrintable(text));
                 QVERIFY2(takesTheLargest(label, 9, 5), qPrintable(text));
             }
@@ -112,8 +112,8 @@ private Q_SLOTS:
 
     void staysResponsive()
     {
-        for (const QString &text : {QString(100000, 'x'), QString(100000, QChar(0x200b)),
-                                    QString(100000, '\n'), QString("word ").repeated(20000)}) {
+        for (const QString &text : {QString(20000, 'x'), QString(20000, QChar(0x200b)),
+                                    QString(20000, '\n'), QString("word ").repeated(4000)}) {
             ZAdjustFontLabel label(text);
             label.setFontSizeRange(INT_MIN, INT_MAX);
             label.resize(800, 600);
