@@ -147,8 +147,10 @@ void ZSvgWidget::fitPixmap(double ratio)
 void ZSvgWidget::drawPixmap(QPainter &painter) const
 {
     // QIcon::paint() would draw a high-resolution pixmap at its low resolution.
-    const QIcon::Mode mode = isEnabled() ? QIcon::Normal : QIcon::Disabled;
-    painter.drawPixmap(rect(), QIcon(m_pixmap).pixmap(m_pixmap.size(), mode));
+    if (isEnabled())
+        painter.drawPixmap(rect(), m_pixmap);
+    else
+        painter.drawPixmap(rect(), QIcon(m_pixmap).pixmap(m_pixmap.size(), QIcon::Disabled));
 }
 
 } // namespace ZIRVOUI
