@@ -130,10 +130,7 @@ void MaskWidget::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setOpacity(d->opacity);
-    if (d->opacity >= 1) // another would fade the kept picture otherwise than the scaled one
-        d->stretchedPicture.draw(painter, rect(), d->blurredPicture, rect());
-    else
-        painter.drawPixmap(QRectF(rect()), d->blurredPicture, QRectF());
+    d->stretchedPicture.draw(painter, rect(), d->blurredPicture, rect());
 }
 
 } // namespace ZIRVOUI
