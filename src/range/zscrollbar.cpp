@@ -35,9 +35,13 @@ void drawTrack(QPainter &painter, const QRect &track, const QColor &color)
 {
     if (color.alpha() == 0)
         return;
-    clipToTrack(painter, track);
     painter.setBrush(color);
-    painter.drawRect(track);
+    if (qMin(track.width(), track.height()) > 1) {
+        painter.drawRoundedRect(track, TrackRadius, TrackRadius);
+    } else { // a single pixel is clipped otherwise than drawn
+        clipToTrack(painter, track);
+        painter.drawRect(track);
+    }
 }
 
 void drawHandle(QPainter &painter, const QRect &handle, const QRect &track, const QColor &color)
