@@ -84,12 +84,13 @@ private Q_SLOTS:
     {
         LineEdit edit;
         edit.setValidator(new IPValidator(&edit));
-        const auto compose = [&](const QString &commit) {
-            QInputMethodEvent event;
+        const auto compose = [&](const QString &commit, const QString &preedit = QString()) {
+            QInputMethodEvent event(preedit, {});
             event.setCommitString(commit);
             QCoreApplication::sendEvent(&edit, &event);
             return edit.text();
         };
+        QCOMPARE(compose(QString(), "19"), QString());
         QCOMPARE(compose("19"), QString("19"));
         QCOMPARE(compose("2.x"), QString("19"));
         QGuiApplication::clipboard()->setText("2.168.1.1.1");
