@@ -6,6 +6,11 @@
 #include <QPainterPath>
 #include <QPixmap>
 #include <QPushButton>
+#include <QScopedPointer>
+
+namespace ZIRVOUI {
+class LaidOutText;
+} // namespace ZIRVOUI
 
 /*!
  * A push button with rounded corners: filled with a colour or covered by a picture, with an
@@ -74,6 +79,7 @@ private:
     int m_borderWidth = 0;
     QColor m_borderColor;
     bool m_movedOut = false;
+    QScopedPointer<ZIRVOUI::LaidOutText> m_laidOutText;
 };
 
 #endif

@@ -6,9 +6,12 @@
 #include <QColor>
 #include <QLabel>
 #include <QPixmap>
+#include <QScopedPointer>
 
 namespace ZIRVOUI {
 
+class LaidOutText;
+class StretchedPicture;
 class SvgFile;
 
 /*!
@@ -89,12 +92,14 @@ protected:
 
 private:
     QPixmap m_picture;
+    QScopedPointer<StretchedPicture> m_stretchedPicture;
     bool m_rightCorner = false;
     SvgFile *m_svg;
     QString m_svgPath;
     int m_textFlag = Qt::TextWordWrap;
     int m_radius = 0;
     QColor m_bgColor = Qt::transparent;
+    QScopedPointer<LaidOutText> m_laidOutText;
 };
 
 } // namespace ZIRVOUI

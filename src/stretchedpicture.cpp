@@ -7,14 +7,27 @@ namespace ZIRVOUI {
 
 namespace {
 
-// Opaque if the picture is.
-QPixmap scaled(const QPixmap &picture, const QSize &size, double ratio)
+// Whether rect takes whole pixels of the device, which is no larger or turned otherwise.
+bool takesWholePixels(const QPainter &painter, const QRectF &rect)
 {
-    QPixmap result(size * ratio);
+    const QTransform toDevice = painter.deviceTransform();
+    const double ratio = pixelRatio(painter);
+    const QRectF onDevice = toDevice.mapRect(rect);
+    return toDevice.type() <= QTransform::TxScale && toDevice.m11() == ratio
+        && toDevice.m22() == ratio && onDevice == onDevice.toRect();
+}
+
+// Opaque if the picture is.
+QPixmap scaled(const QPixmap &picture, const QSizeF &size, double ratio, bool smoothly)
+{
+    QPixmap result((size * ratio).toSize());
     result.setDevicePixelRatio(ratio);
     if (picture.hasAlphaChannel())
         result.fill(Qt::transparent);
-    QPainter(&result).drawPixmap(QRectF(QPointF(), size), picture, QRectF());
+    QPainter painter(&result);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, smoothly);
+    painter.drawPixmap(QRectF(QPointF(), size), picture, QRectF());
+    painter.end();
     return result;
 }
 
@@ -30,15 +43,15 @@ void StretchedPicture::draw(QPainter &painter, const QRectF &target, const QPixm
 {
     if (picture.isNull())
         return;
-    if (!target.isValid() || !bounds.contains(target)) {
+    if (!target.isValid() || !bounds.contains(target) || !takesWholePixels(painter, target)) {
         painter.drawPixmap(target, picture, QRectF());
         return;
     }
-    const QSize size = target.size().toSize();
     const double ratio = pixelRatio(painter);
-    painter.drawPixmap(target.topLeft(), m_scaled.of({picture.cacheKey(), size, ratio}, [&] {
-        return scaled(picture, size, ratio);
-    }));
+    const bool smoothly = painter.testRenderHint(QPainter::SmoothPixmapTransform);
+    const auto &kept = m_scaled.of({picture.cacheKey(), target.size(), ratio, smoothly},
+                                   [&] { return scaled(picture, target.size(), ratio, smoothly); });
+    painter.drawPixmap(target.topLeft(), kept);
 }
 
 } // namespace ZIRVOUI

@@ -12,7 +12,7 @@ namespace ZIRVOUI {
 /*! How many pixels of the device under \a painter a pixel of its coordinates takes. */
 double pixelRatio(const QPainter &painter);
 
-/*! Draws a picture as QPainter scales it, and keeps what it has scaled. */
+/*! Draws a picture as the painter scales it, and keeps what it has scaled. */
 class StretchedPicture
 {
 public:
@@ -21,7 +21,7 @@ public:
               const QRectF &bounds);
 
 private:
-    Kept<QPixmap, qint64, QSize, double> m_scaled;
+    Kept<QPixmap, qint64, QSizeF, double, bool> m_scaled;
 };
 
 } // namespace ZIRVOUI

@@ -2,6 +2,7 @@
 
 #include "buttonstate_p.h"
 #include "flipchecked_p.h"
+#include "laidouttext_p.h"
 #include "roundedoutline_p.h"
 #include "widgetlook_p.h"
 
@@ -18,6 +19,7 @@ constexpr int DownLightness = 130; // percent
 
 RoundedButton::RoundedButton(QWidget *parent)
     : QPushButton(parent)
+    , m_laidOutText(new ZIRVOUI::LaidOutText)
 {
     setBackgroundColor(QBrush(Qt::transparent));
     setFontColor(Qt::white);
@@ -126,7 +128,7 @@ void RoundedButton::paintEvent(QPaintEvent *)
     if (m_borderWidth > 0)
         drawBorder(painter);
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(rect(), Qt::AlignCenter, text());
+    m_laidOutText->draw(painter, rect(), Qt::AlignCenter, text());
 }
 
 void RoundedButton::drawBackground(QPainter &painter, const QPainterPath &outline)

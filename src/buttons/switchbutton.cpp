@@ -1,12 +1,27 @@
 #include "switchbutton.h"
 
 #include "flipchecked_p.h"
+#include "laidouttext_p.h"
 
 #include <QPainter>
 #include <QPointer>
 #include <QPropertyAnimation>
 
 namespace ZIRVOUI {
+
+namespace {
+
+constexpr int CaptionSize = 10; // points
+
+// Fully resolved: nothing is left for the widget's font to fill in.
+QFont newCaptionFont()
+{
+    QFont font(QStringLiteral("Arial"), CaptionSize);
+    font.resolve(~0u);
+    return font;
+}
+
+} // namespace
 
 class SwitchButtonPrivate
 {
@@ -33,6 +48,9 @@ public:
     QString noCheckText;
     bool isFlipping = false; // nextCheckState() is at work
     SwitchButton *q;
+
+    const QFont captionFont = newCaptionFont();
+    LaidOutText laidOutCaption;
 };
 
 namespace {
@@ -43,7 +61,6 @@ constexpr double DisabledOpacity = 0.4;
 constexpr QRgb DashColor = 0xff1f81dd;
 constexpr double DashWidth = 2.0;
 constexpr double TextMargin = 4.0;
-constexpr int TextSize = 10; // points
 
 // The middle is a whole pixel, as the track's radius is.
 QRectF knobRect(const SwitchButtonPrivate &d, const QSize &size)
@@ -73,15 +90,13 @@ void drawDash(QPainter &painter, const QPointF &center, double length)
     painter.drawLine(center - half, center + half);
 }
 
-void drawText(QPainter &painter, const QSize &size, Qt::Alignment side, const QString &text)
+void drawCaption(QPainter &painter, const QSize &size, Qt::Alignment side, const QString &text,
+                 SwitchButtonPrivate &d)
 {
-    // Fully resolved: nothing is left for the widget's font to fill in.
-    QFont font(QStringLiteral("Arial"), TextSize);
-    font.resolve(~0u);
-    painter.setFont(font);
+    painter.setFont(d.captionFont);
     painter.setPen(Qt::white);
-    painter.drawText(QRectF(TextMargin, 0, size.width() - 2 * TextMargin, size.height()),
-                     int(side | Qt::AlignVCenter), text);
+    const QRectF rect(TextMargin, 0, size.width() - 2 * TextMargin, size.height());
+    d.laidOutCaption.draw(painter, rect, int(side | Qt::AlignVCenter), text);
 }
 
 } // namespace
@@ -272,9 +287,9 @@ void SwitchButton::paintEvent(QPaintEvent *)
             drawDash(painter, knob.center(), d->dashLength);
     }
     if (isChecked())
-        drawText(painter, size(), Qt::AlignLeft, d->checkText);
+        drawCaption(painter, size(), Qt::AlignLeft, d->checkText, *d);
     else
-        drawText(painter, size(), Qt::AlignRight, d->noCheckText);
+        drawCaption(painter, size(), Qt::AlignRight, d->noCheckText, *d);
 }
 
 } // namespace ZIRVOUI

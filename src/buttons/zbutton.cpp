@@ -2,6 +2,7 @@
 
 #include "buttonstate_p.h"
 #include "flipchecked_p.h"
+#include "laidouttext_p.h"
 #include "widgetlook_p.h"
 
 #include <QApplication>
@@ -18,6 +19,7 @@ struct ZButtonPrivate
     QColor backgroundColor = QColor(49, 106, 255);
     QColor fontColor = Qt::white;
     int radius = 10; // pixels
+    LaidOutText laidOutText;
 };
 
 namespace {
@@ -41,11 +43,11 @@ void drawIcon(QPainter &painter, const QRect &rect, const QIcon &icon)
     painter.drawPixmap(QRectF(rect), icon.pixmap(size), QRectF());
 }
 
-void drawText(QPainter &painter, QRect rect, const QString &text, const QColor &color)
+void drawText(QPainter &painter, QRect rect, const QString &text, ZButtonPrivate &d)
 {
     rect.setTop(-(rect.height() / TextRaise));
-    painter.setPen(color);
-    painter.drawText(rect, Qt::AlignCenter, text);
+    painter.setPen(d.fontColor);
+    d.laidOutText.draw(painter, rect, Qt::AlignCenter, text);
 }
 
 } // namespace
@@ -155,7 +157,7 @@ void ZButton::paintEvent(QPaintEvent *)
         drawBackground(painter, rect(), *d);
     else
         drawIcon(painter, rect(), option.icon);
-    drawText(painter, rect(), option.text, d->fontColor);
+    drawText(painter, rect(), option.text, *d);
 }
 
 } // namespace ZIRVOUI

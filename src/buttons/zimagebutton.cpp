@@ -3,6 +3,7 @@
 #include "buttonstate_p.h"
 #include "flipchecked_p.h"
 #include "kept_p.h"
+#include "laidouttext_p.h"
 #include "stretchedpicture_p.h"
 #include "svgfile_p.h"
 #include "widgetlength_p.h"
@@ -52,6 +53,7 @@ public:
     StretchedPicture stretchedBackground;
     Kept<QPixmap, QSize, double> renderedIcon;
     StretchedPicture stretchedIcon;
+    LaidOutText laidOutText;
 };
 
 void ZImageButtonPrivate::init()
@@ -232,7 +234,7 @@ void ZImageButton::paintEvent(QPaintEvent *)
     painter.setOpacity(stateOpacity(option.state));
     d->drawIcon(painter, *m_icon);
     painter.setPen(d->fontColor);
-    painter.drawText(d->textRect, Qt::AlignCenter, option.text);
+    d->laidOutText.draw(painter, d->textRect, Qt::AlignCenter, option.text);
 }
 
 } // namespace ZIRVOUI

@@ -1,6 +1,7 @@
 #include "zradiobutton.h"
 
 #include "flipchecked_p.h"
+#include "laidouttext_p.h"
 
 #include <QPainter>
 #include <QStyleOptionButton>
@@ -15,6 +16,7 @@ struct ZRadioButtonPrivate
     QColor externalCircleFillColor = QColor(0, 0, 0, 0);
     QColor internalCircleFillColor = QColor(151, 151, 151);
     QColor textColor = Qt::white;
+    LaidOutText laidOutText;
 };
 
 namespace {
@@ -45,12 +47,12 @@ void drawDot(QPainter &painter, int center, const ZRadioButtonPrivate &d)
     painter.drawEllipse(circleAround(center, radius));
 }
 
-void drawLabel(QPainter &painter, const QSize &size, const QString &text,
-               const ZRadioButtonPrivate &d)
+void drawLabel(QPainter &painter, const QSize &size, const QString &text, ZRadioButtonPrivate &d)
 {
     const double left = double(d.spacing) + size.height();
     painter.setPen(d.textColor);
-    painter.drawText(QRectF(left, 0, size.width() - left, size.height()), Qt::AlignVCenter, text);
+    const QRectF rect(left, 0, size.width() - left, size.height());
+    d.laidOutText.draw(painter, rect, Qt::AlignVCenter, text);
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "zclicklabel.h"
 
+#include "laidouttext_p.h"
+#include "stretchedpicture_p.h"
 #include "svgfile_p.h"
 #include "widgetlook_p.h"
 
@@ -46,7 +48,9 @@ void drawCorner(QPainter &painter, const QSize &size, int radius)
 
 ZClickLabel::ZClickLabel(QWidget *parent)
     : QLabel(parent)
+    , m_stretchedPicture(new StretchedPicture)
     , m_svg(new SvgFile(this))
+    , m_laidOutText(new LaidOutText)
 {
     setFontColor(Qt::white);
 }
@@ -162,15 +166,15 @@ void ZClickLabel::paintEvent(QPaintEvent *)
     drawBackground(painter, rect(), m_radius, m_bgColor);
 
     painter.setOpacity(isEnabled() ? 1.0 : DisabledOpacity);
-    if (!m_picture.isNull())
-        painter.drawPixmap(QRectF(rect()), m_picture, QRectF());
+    m_stretchedPicture->draw(painter, rect(), m_picture, rect());
     if (!m_svgPath.isEmpty()) {
         m_svg->read(m_svgPath);
         m_svg->render(&painter, rect());
     }
 
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(rect(), int(alignment()) | (wordWrap() ? m_textFlag : 0), text());
+    const int flags = int(alignment()) | (wordWrap() ? m_textFlag : 0);
+    m_laidOutText->draw(painter, rect(), flags, text());
     if (m_rightCorner)
         drawCorner(painter, size(), m_radius);
 }

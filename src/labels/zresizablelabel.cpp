@@ -1,6 +1,7 @@
 #include "zresizablelabel.h"
 
 #include "kept_p.h"
+#include "laidouttext_p.h"
 #include "truncated_p.h"
 #include "widgetlength_p.h"
 
@@ -18,6 +19,7 @@ struct ZResizableLabelPrivate
     QSize minSize = QSize(70, 30);
     QSize maxSize = QSize(1190, 768);
 
+    LaidOutText laidOutText;
     Kept<QSize, QString, QFont, QSize, QSize> hint;
     Kept<std::unique_ptr<QTextDocument>, QString, int, QFont> document;
 };
@@ -175,7 +177,7 @@ void ZResizableLabel::paintNormalText()
         return;
     QPainter painter(this);
     painter.setPen(d->fontColor);
-    painter.drawText(rect(), int(alignment()) | Qt::TextWordWrap, text());
+    d->laidOutText.draw(painter, rect(), int(alignment()) | Qt::TextWordWrap, text());
 }
 
 void ZResizableLabel::paintRichText()

@@ -6,7 +6,6 @@
 
 #include <QPainter>
 #include <QTimerEvent>
-#include <memory>
 
 namespace ZIRVOUI {
 
@@ -22,7 +21,7 @@ struct ZScrollLabelPrivate
     bool needScroll = true;
 
     Kept<int, QString, QFont> textWidth;
-    Kept<std::unique_ptr<LaidOutText>, QString, QFont, Qt::LayoutDirection> laidOutText;
+    LaidOutText laidOutText;
 
     static constexpr int NoTimer = 0; // as QObject::startTimer() has it
 };
@@ -165,13 +164,9 @@ void ZScrollLabel::paintEvent(QPaintEvent *)
 
     QPainter painter(this);
     painter.setPen(d->fontColor);
-    const auto direction = painter.layoutDirection();
-    const auto &laidOut = d->laidOutText.of({text(), painter.font(), direction}, [&] {
-        return std::make_unique<LaidOutText>(text(), painter.font(), direction);
-    });
-    laidOut->draw(painter, textRect);
+    d->laidOutText.draw(painter, textRect, Qt::AlignVCenter, text());
     if (d->timer != d->NoTimer && copyRect.isValid())
-        laidOut->draw(painter, copyRect);
+        d->laidOutText.draw(painter, copyRect, Qt::AlignVCenter, text());
 }
 
 void ZScrollLabel::resizeEvent(QResizeEvent *event)
