@@ -14,6 +14,13 @@ namespace {
 constexpr double DisabledOpacity = 0.3;
 constexpr int BlinkPeriod = 1000; // ms
 
+void turn(QPainter &painter, const QPoint &center, double degrees)
+{
+    painter.translate(center);
+    painter.rotate(degrees);
+    painter.translate(-center);
+}
+
 } // namespace
 
 ZSvgWidget::ZSvgWidget(QWidget *parent)
@@ -121,11 +128,8 @@ void ZSvgWidget::initAnimation()
 void ZSvgWidget::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const QPoint center(width() / 2, height() / 2);
-    painter.translate(center);
-    if (qIsFinite(m_rotateAngle))
-        painter.rotate(m_rotateAngle);
-    painter.translate(-center);
+    if (m_rotateAngle != 0 && qIsFinite(m_rotateAngle))
+        turn(painter, {width() / 2, height() / 2}, m_rotateAngle);
     painter.setOpacity(isEnabled() ? m_opacity : DisabledOpacity);
 
     if (!m_svgPath.isEmpty()) {
