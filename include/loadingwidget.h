@@ -55,7 +55,7 @@ private:
     void drawHead(QPainter &painter, int radius);
 
     int m_angle = 0; // degrees
-    QTimer m_timer;
+    QTimer m_timer{this};
     QConicalGradient m_gradient = QConicalGradient(0, 0, 0);
     int m_width = 10; // pixels
     QColor m_headColor;

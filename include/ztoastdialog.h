@@ -67,6 +67,9 @@ public:
      */
     int exec() override;
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     void startCloseTimer();
 

@@ -1,5 +1,6 @@
 #include "ztoastdialog.h"
 
+#include "announcement_p.h"
 #include "execonce_p.h"
 #include "widgetlength_p.h"
 #include "zclicklabel.h"
@@ -85,6 +86,12 @@ int ZToastDialog::exec()
 {
     startCloseTimer();
     return execOnce(*this, m_isExecuting);
+}
+
+void ZToastDialog::showEvent(QShowEvent *event)
+{
+    ZBaseDialog::showEvent(event);
+    announceAlert(*this);
 }
 
 void ZToastDialog::startCloseTimer()

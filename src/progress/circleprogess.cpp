@@ -1,5 +1,6 @@
 #include "circleprogess.h"
 
+#include "announcement_p.h"
 #include "truncated_p.h"
 
 #include <QPainter>
@@ -64,6 +65,7 @@ void CircleProgess::setValue(double value)
 {
     m_value = value;
     update();
+    announceValue(*this, value);
 }
 
 double CircleProgess::startAngle() const

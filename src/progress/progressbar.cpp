@@ -1,5 +1,6 @@
 #include "progressbar.h"
 
+#include "announcement_p.h"
 #include "truncated_p.h"
 
 #include <QPainter>
@@ -112,6 +113,7 @@ void ProgressBar::setValue(double value)
     if (m_minValue > value)
         value = m_minValue;
     m_curValue = value;
+    announceValue(*this, value);
     Q_EMIT valueChanged(value);
 }
 
@@ -123,6 +125,7 @@ void ProgressBar::setValue(int value)
         value = truncated(m_minValue);
     m_curValue = value;
     update();
+    announceValue(*this, value);
     Q_EMIT valueChanged(value);
 }
 
