@@ -29,6 +29,8 @@ public:
     /*!
      * A transparent button with the SVG at \a path as its icon, at the natural size of that file;
      * a file that cannot be read gives an icon of no size.  See ZSvgWidget::loadSvgImage().
+     *
+     * It cannot be checked.  A click gives it the focus, the Tab key does not.
      */
     explicit CircleButton(const QString &path, QWidget *parent = nullptr);
     ~CircleButton() override;
@@ -51,7 +53,7 @@ public:
 
     /*! The height of the font in pixels, and repaints; 0 and less leave the size as it is. */
     void setFontSize(int size);
-    /*! Sets the palette's WindowText brush in all colour groups. */
+    /*! Sets the palette's WindowText brush in all colour groups, and repaints. */
     void setFontColor(QColor color);
 
 Q_SIGNALS:

@@ -23,15 +23,17 @@ class ZCOMMONWIDGETS_EXPORT CircleProgess : public QWidget
     Q_OBJECT
 
 public:
+    /*! Draws nothing until it gets a brush. */
     explicit CircleProgess(QWidget *parent = nullptr);
     ~CircleProgess() override;
 
-    /*! The range, 0 to 100 by default.  An empty one draws no slice. */
+    /*! The value without a slice, 0 by default.  A range that is empty draws none. */
     double min() const;
     void setMin(double min);
+    /*! The value of the full arc, 100 by default. */
     double max() const;
     void setMax(double max);
-    /*! 0 by default; the setter repaints. */
+    /*! 0 by default; the setter repaints.  NaN draws no slice. */
     double value() const;
     void setValue(double value);
     /*! The degrees from 12 o'clock, clockwise, where the slice begins; 0 by default. */

@@ -21,14 +21,22 @@ class ZCOMMONWIDGETS_EXPORT CircularDelegate : public QObject
     Q_PROPERTY(int angle READ angle WRITE setAngle)
 
 public:
-    /*! \a widget owns the delegate, which does not live without it. */
+    /*!
+     * \a widget owns the delegate, which does not live without it.
+     *
+     * Every CircularLoadingWidget has made its own, findChild() finds it; it does not paint the
+     * values of another.
+     */
     explicit CircularDelegate(CircularLoadingWidget *widget);
     ~CircularDelegate() override;
 
-    /*! Where the arc begins, in widths of its line; less is further clockwise.  0 by default. */
+    /*!
+     * Where the arc begins, in widths of its line; less is further clockwise.  0 by default; one
+     * that is not finite draws no arc.
+     */
     double dashOffset() const;
     void setDashOffset(double offset);
-    /*! How long the arc is, in widths of its line; 89 by default. */
+    /*! How long the arc is, in widths of its line; 89 by default.  Not finite, it is not drawn. */
     double dashLength() const;
     void setDashLength(double length);
     /*! The degrees that the figure is turned by, clockwise; 0 by default. */

@@ -23,6 +23,7 @@ class ZCOMMONWIDGETS_EXPORT CircularLoadingWidget : public QWidget
     Q_PROPERTY(QColor color READ color WRITE setColor)
 
 public:
+    /*! Spins from now on, without a track. */
     explicit CircularLoadingWidget(QWidget *parent = nullptr);
     ~CircularLoadingWidget() override;
 

@@ -22,17 +22,23 @@ class ZCOMMONWIDGETS_EXPORT CommonLabelWidget : public QWidget
     Q_OBJECT
 
 public:
+    /*! Three empty labels from top to bottom, or with Qt::Horizontal from left to right. */
     explicit CommonLabelWidget(QWidget *parent = nullptr,
                                Qt::Orientation orientation = Qt::Vertical);
     ~CommonLabelWidget() override;
 
     /*! An empty title keeps its place, as an empty text does. */
     void setTitleText(const QString &text);
+    /*! The first label. */
     ZClickLabel *titleLabel();
+    /*! A hidden title leaves its place to the others.  Visible by default. */
     void setTitleVisible(bool visible);
 
+    /*! Shown after the icon; one that is empty keeps its place. */
     void setText(const QString &text);
+    /*! The last label. */
     ZClickLabel *textLabel();
+    /*! A hidden text leaves its place to the others.  Visible by default. */
     void setTextVisible(bool visible);
 
     /*!
@@ -40,12 +46,15 @@ public:
      * decides it.
      */
     void setIconSize(const QSize &size);
-    /*! A file, as ZClickLabel::setBgPicturePath() takes it: an SVG stays over a picture set later.
+    /*!
+     * A file, as ZClickLabel::setBgPicturePath() takes it, or a picture, null for none.  An SVG
+     * stays over a picture set later.
      */
     void setIcon(const QString &path);
     void setIcon(const QPixmap &picture);
-    /*! The yellow triangle of ZClickLabel::setRightCornerLabels(). */
+    /*! The yellow triangle of ZClickLabel::setRightCornerLabels() on the icon. */
     void setIcoCornerVisible(bool visible);
+    /*! The label in the middle. */
     ZClickLabel *icoLabel();
 
     /*! The gaps between the labels in pixels; with -1, at first, the style decides. */

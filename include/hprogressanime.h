@@ -21,6 +21,7 @@ class ZCOMMONWIDGETS_EXPORT HProgressAnime : public QWidget
     Q_OBJECT
 
 public:
+    /*! On a dark gray, RGB (58, 58, 58). */
     explicit HProgressAnime(QWidget *parent = nullptr);
     ~HProgressAnime() override;
 

@@ -16,11 +16,12 @@ class ZCOMMONWIDGETS_EXPORT ImageSwitchButton : public CircleButton
     Q_OBJECT
 
 public:
+    /*! Takes two paths, as CircleButton takes one. */
     explicit ImageSwitchButton(const QString &openImage, const QString &closedImage,
                                QWidget *parent = nullptr);
     ~ImageSwitchButton() override;
 
-    /*! Shows the icon of the state and emits nothing. */
+    /*! Whether it is open, false by default; the setter shows that icon and emits nothing. */
     void setOpenState(bool open);
     bool openState();
 

@@ -21,9 +21,11 @@ class ZCOMMONWIDGETS_EXPORT IPValidator : public QValidator
     Q_OBJECT
 
 public:
+    /*! \a parent owns the validator; the line edit that uses it does not. */
     explicit IPValidator(QObject *parent = nullptr);
     ~IPValidator() override;
 
+    /*! Changes neither \a input nor \a pos, and does not look at the latter. */
     State validate(QString &input, int &pos) const override;
 };
 

@@ -20,6 +20,7 @@ class ZCOMMONWIDGETS_EXPORT LineEdit : public QLineEdit
     Q_OBJECT
 
 public:
+    /*! A field without a validator. */
     explicit LineEdit(QWidget *parent = nullptr);
     ~LineEdit() override;
 
@@ -27,7 +28,10 @@ public:
     void setupStyle();
     /*! The height of the font in pixels; 0 and less keep the one it has.  Repaints. */
     void setFontSize(int size);
-    /*! Sets the text anew, as the validator's fixup() makes it if there is a validator. */
+    /*!
+     * Sets the text anew, as the validator's fixup() makes it if there is a validator.  The cursor
+     * goes to the end, and what was typed cannot be undone any more.
+     */
     void fixUp();
 
 Q_SIGNALS:

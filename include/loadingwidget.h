@@ -30,6 +30,7 @@ public:
 
     /*! Turns the spinner by one step, as the timer does, and repaints. */
     void updateRotate();
+    /*! Goes on from where it was stopped, or counts its 6 milliseconds anew. */
     void start();
     /*! The spinner stays as it is until start(). */
     void stop();

@@ -23,6 +23,7 @@ class ZCOMMONWIDGETS_EXPORT MaskWidget : public QWidget
     Q_OBJECT
 
 public:
+    /*! Draws nothing until it gets a picture. */
     explicit MaskWidget(QWidget *parent = nullptr);
     ~MaskWidget() override;
 
@@ -32,7 +33,7 @@ public:
      */
     void setDistance(int distance);
     int distance();
-    /*! From 0 to 1, 1 by default. */
+    /*! From 0 (invisible) to 1, the default; what lies beyond counts as the nearer of the two. */
     void setOpacity(double opacity);
     double opacity();
     /*! In pixels of the picture, 60 by default.  One that is not finite does not blur. */
@@ -49,7 +50,7 @@ public:
     /*! As it was set, not blurred. */
     QPixmap pixmap() const;
 
-    /*! The size of the picture. */
+    /*! The size of the picture; invalid without one. */
     QSize sizeHint() const override;
 
 protected:

@@ -55,9 +55,13 @@ public Q_SLOTS:
     /*! The value stays as it is until it is set again.  An empty range draws no fill. */
     void setRange(double minValue, double maxValue);
     void setRange(int minValue, int maxValue);
+    /*! The value of an empty bar, 0 by default.  The value stays as it is. */
     void setMinValue(double minValue);
+    /*! The value of a full bar, 100 by default.  The value stays as it is. */
     void setMaxValue(double maxValue);
-    /*! Limits the value to the range; in an inverted range the minimum counts. */
+    /*!
+     * Limits the value to the range; in an inverted range the minimum counts.  NaN draws no fill.
+     */
     void setValue(double value);
     /*! Limits the value to the range, whose ends lose their fraction, and repaints. */
     void setValue(int value);
@@ -65,7 +69,8 @@ public Q_SLOTS:
     void setPercent(bool percent);
     /*! The pixels that a full bar lacks at its right, halved; 0 by default. */
     void setPadding(int padding);
-    /*! The corner radius of background and fill in pixels, 0 by default. */
+    /*! The corner radius of background and fill in pixels, 0 by default; Qt limits it to half of
+     * each. */
     void setRadius(int radius);
     /*! The fill, solid blue by default.  An empty brush leaves it to the value colour. */
     void setValueBrush(const QBrush &valueBrush);
@@ -73,8 +78,9 @@ public Q_SLOTS:
     void setValueColor(const QColor &valueColor);
     /*! Dark gray by default. */
     void setBgColor(const QColor &bgColor);
-    /*! Stored for the application, as the text colour is; nothing is drawn in them. */
+    /*! Stored for the application; nothing is drawn in it. */
     void setTipColor(const QColor &tipColor);
+    /*! Stored for the application; nothing is drawn in it. */
     void setTextColor(const QColor &textColor);
 
 protected:

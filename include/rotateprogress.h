@@ -22,6 +22,7 @@ class ZCOMMONWIDGETS_EXPORT RotateProgress : public QWidget
     Q_OBJECT
 
 public:
+    /*! Green, RGB (135, 245, 14), once it is started. */
     explicit RotateProgress(QWidget *parent = nullptr);
     ~RotateProgress() override;
 

@@ -52,7 +52,9 @@ public:
     void setFontColor(QColor color);
 
 Q_SIGNALS:
+    /*! A mouse button went down; the second press of a double click counts too. */
     void signal_mousePressed();
+    /*! A mouse button came up, wherever the pointer is by then. */
     void signal_mouseReleased();
     /*! Follows signal_mouseReleased() if the pointer never left the button since the press. */
     void signal_clicked();

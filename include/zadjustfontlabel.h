@@ -22,7 +22,9 @@ class ZCOMMONWIDGETS_EXPORT ZAdjustFontLabel : public ZClickLabel
     Q_OBJECT
 
 public:
+    /*! Keeps its font until it gets a range of sizes. */
     explicit ZAdjustFontLabel(QWidget *parent = nullptr);
+    /*! The same with \a text in it. */
     explicit ZAdjustFontLabel(QString text, QWidget *parent = nullptr);
     ~ZAdjustFontLabel() override;
 
@@ -34,7 +36,7 @@ public:
     void setFontSizeRange(int minimum, int maximum);
     /*! As ZClickLabel::setTextSize(), until the next paint fits the font. */
     void setTextSize(int size);
-    /*! Fits the font now. */
+    /*! Fits the font now, without waiting for the next paint. */
     void calcFontSize();
 
 protected:

@@ -22,7 +22,7 @@ namespace ZIRVOUI {
  * shown itself.  One without a parent is a window of its own, and is shown with the layout it may
  * be put into later.
  *
- * \section1 Modality
+ * \par Modality
  *
  * Qt's modality works between windows.  While a dialog with a parent runs exec(), the rest of the
  * parent's window still takes taps.  For a truly modal window construct the dialog without a
@@ -31,7 +31,7 @@ namespace ZIRVOUI {
  * dialog.setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
  * \endcode
  *
- * \section1 Placement
+ * \par Placement
  *
  * QDialog centres a dialog on its parent when it is shown, in the screen's coordinates.  These are
  * the parent's own only if it fills the screen; elsewhere call move() before show().
@@ -48,7 +48,7 @@ public:
         TopRightRadius,
         BottomLeftRadius,
         BottomRightRadius,
-        TopRadius,
+        TopRadius, //!< Both at the top, and so on.
         BottomRadius,
         LeftRadius,
         RightRadius,
@@ -76,10 +76,12 @@ public:
      * A dialog that has a layout keeps it, and \a layout stays the caller's.
      */
     void setLayout(QLayout *layout);
-    /*! Fix the size of the body, in pixels; the widget is larger by the shadow. */
+    /*! The size of the body, in pixels; the widget is larger by the shadow. */
     void setFixedSize(const QSize &size);
     void setFixedSize(int width, int height);
+    /*! The width of the body alone, as setFixedSize(). */
     void setFixedWidth(int width);
+    /*! The height of the body alone, as setFixedSize(). */
     void setFixedHeight(int height);
 
 protected:

@@ -26,7 +26,9 @@ class ZCOMMONWIDGETS_EXPORT ZButton : public QPushButton
     Q_OBJECT
 
 public:
+    /*! A blue button in the size of a stock one. */
     explicit ZButton(QWidget *parent = nullptr);
+    /*! The same with \a text on it. */
     explicit ZButton(const QString &text, QWidget *parent = nullptr);
     ~ZButton() override;
 

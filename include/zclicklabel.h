@@ -32,11 +32,13 @@ class ZCOMMONWIDGETS_EXPORT ZClickLabel : public QLabel
 public:
     /*! A label without text, transparent, with square corners and white text. */
     explicit ZClickLabel(QWidget *parent = nullptr);
+    /*! The same with \a text in it. */
     explicit ZClickLabel(QString text, QWidget *parent = nullptr);
     ~ZClickLabel() override;
 
     /*! The height of the font in pixels; 0 and less leave the size as it is. */
     void setTextSize(int size);
+    /*! A family that is not installed takes what QFont finds for it. */
     void setFontFamily(QString family);
     /*! 0 (thin) to 99 (black), 50 is QFont::Normal; other weights leave the font as it is. */
     void setFontWeight(int weight);

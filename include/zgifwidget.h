@@ -23,6 +23,7 @@ class ZCOMMONWIDGETS_EXPORT ZGifWidget : public QLabel
     Q_OBJECT
 
 public:
+    /*! Plays the file at \a path; an empty path plays nothing. */
     explicit ZGifWidget(const QString &path, QWidget *parent = nullptr);
     ~ZGifWidget() override;
 

@@ -30,6 +30,7 @@ class ZCOMMONWIDGETS_EXPORT ZImageButton : public QPushButton
 public:
     /*! A white tile with white text. */
     explicit ZImageButton(QWidget *parent = nullptr);
+    /*! The same with \a text on it. */
     explicit ZImageButton(const QString &text, QWidget *parent = nullptr);
     /*! See loadIcoImage() and loadSignImage() for the two paths. */
     explicit ZImageButton(const QString &text, const QString &iconPath, const QString &signPath,
@@ -45,6 +46,7 @@ public:
     bool loadIcoImage(const QString &path);
     /*! See ZSvgWidget::loadSvgImage(). */
     void loadSignImage(const QString &path);
+    /*! Until the tile is toggled, which shows the sign with a check and hides it without. */
     void setSignVisible(const bool &visible);
     /*! Fixes the sign's size in pixels; by default it is the natural size of its file. */
     void setSingSize(int width, int height);

@@ -24,7 +24,9 @@ class ZCOMMONWIDGETS_EXPORT ZRadioButton : public QRadioButton
     Q_OBJECT
 
 public:
+    /*! In the size of a stock radio button, and exclusive among those of its parent. */
     explicit ZRadioButton(QWidget *parent = nullptr);
+    /*! The same with \a text at its right. */
     explicit ZRadioButton(const QString &text, QWidget *parent = nullptr);
     ~ZRadioButton() override;
 

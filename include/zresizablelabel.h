@@ -26,7 +26,9 @@ class ZCOMMONWIDGETS_EXPORT ZResizableLabel : public QLabel
     Q_OBJECT
 
 public:
+    /*! An empty label with word wrap on. */
     explicit ZResizableLabel(QWidget *parent = nullptr);
+    /*! The same with \a text in it. */
     explicit ZResizableLabel(const QString &text, QWidget *parent = nullptr);
     ~ZResizableLabel() override;
 
@@ -42,10 +44,12 @@ public:
     /*! Transparent by default.  Only stores. */
     void setBackgroundColor(const QColor &color);
 
+    /*! What the text asks for between the two sizes; see above. */
     QSize sizeHint() const override;
 
-    /*! The two ways to draw the text, for use in a paintEvent(); elsewhere they draw nothing. */
+    /*! Draws the text as it stands, for use in a paintEvent(); elsewhere it draws nothing. */
     void paintNormalText();
+    /*! Draws the text as HTML, for use in a paintEvent(); elsewhere it draws nothing. */
     void paintRichText();
 
 protected:

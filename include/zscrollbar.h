@@ -21,6 +21,7 @@ class ZCOMMONWIDGETS_EXPORT ZScrollBar : public QScrollBar
 public:
     /*! A vertical scroll bar. */
     explicit ZScrollBar(QWidget *parent = nullptr);
+    /*! Vertical or horizontal. */
     explicit ZScrollBar(Qt::Orientation orientation, QWidget *parent = nullptr);
     ~ZScrollBar() override;
 

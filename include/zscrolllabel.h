@@ -10,6 +10,7 @@ namespace ZIRVOUI {
 
 struct ZScrollLabelPrivate;
 
+/*! Where the text of a ZScrollLabel goes. */
 enum ScrollDirection : int {
     ScrollHorizontal = 0, //!< The text moves leftwards.
     ScrollVertical = 1 //!< The text moves upwards, half a step at a time.
@@ -27,7 +28,9 @@ enum ScrollDirection : int {
 class ZCOMMONWIDGETS_EXPORT ZScrollLabel : public QLabel
 {
 public:
+    /*! An empty label, white on nothing. */
     explicit ZScrollLabel(QWidget *parent = nullptr);
+    /*! The same with \a text in it. */
     explicit ZScrollLabel(const QString &text, QWidget *parent = nullptr);
     ~ZScrollLabel() override;
 

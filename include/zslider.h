@@ -18,9 +18,10 @@ struct ZSliderPrivate;
  *
  * The mouse chooses multiples of singleStep(), which are counted from zero, not from the minimum.
  *
- * The handle follows the mouse and this class's setValue(), and nothing else.  Keys, the wheel, a
- * new range, the setValue() slot of the base class and a resize leave it where it was: call
- * calcHandlePosition() after any of these, for one when a layout has given the slider its size.
+ * The handle follows the mouse, assistive tools and this class's setValue(), and nothing else.
+ * Keys, the wheel, a new range, the setValue() slot of the base class and a resize leave it where
+ * it was: call calcHandlePosition() after any of these, for one when a layout has given the slider
+ * its size.
  *
  * The setters of groove and handle only store: set them before the slider is shown, or call
  * update().  A disabled slider fades its groove to 30 % and shows its handle in gray.  Whatever
@@ -31,6 +32,7 @@ class ZCOMMONWIDGETS_EXPORT ZSlider : public QSlider
     Q_OBJECT
 
 public:
+    /*! From 0 to 99 in steps of 1, as a stock slider. */
     explicit ZSlider(QWidget *parent = nullptr);
     ~ZSlider() override;
 
@@ -65,8 +67,9 @@ public:
      */
     void calcHandleValue(int x);
 
-    /*! The parts of the picture, for use in a paintEvent(); elsewhere they draw nothing. */
+    /*! Draws the groove, for use in a paintEvent(); elsewhere it draws nothing. */
     void paintGroove();
+    /*! Draws the handle, for use in a paintEvent(); elsewhere it draws nothing. */
     void paintHanle();
 
 protected:

@@ -26,6 +26,7 @@ class ZCOMMONWIDGETS_EXPORT ZSvgWidget : public QWidget
 public:
     /*! A widget that draws nothing until it gets an icon. */
     explicit ZSvgWidget(QWidget *parent = nullptr);
+    /*! The same with the icon at \a path; see loadSvgImage(). */
     explicit ZSvgWidget(const QString &path, QWidget *parent = nullptr);
     ~ZSvgWidget() override;
 
@@ -41,7 +42,10 @@ public:
     void setmPixmap(const QPixmap &pixmap);
 
     double opacity() const;
-    /*! 0 (invisible) to 1 (opaque, the default); repaints if the value is new. */
+    /*!
+     * 0 (invisible) to 1 (opaque, the default), what lies beyond counts as the nearer of the two;
+     * repaints if the value is new.
+     */
     void setOpacity(double opacity);
 
     /*!

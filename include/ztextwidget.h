@@ -20,10 +20,11 @@ class ZCOMMONWIDGETS_EXPORT ZTextWidget : public QWidget
     Q_OBJECT
 
 public:
+    /*! An empty document. */
     explicit ZTextWidget(QWidget *parent = nullptr);
     ~ZTextWidget() override;
 
-    /*! Repaints. */
+    /*! Replaces the document's content, and repaints. */
     void setHtml(QString html);
     /*!
      * The document, which belongs to the widget.  Changes to it show at the next paint: call

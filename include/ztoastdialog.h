@@ -5,10 +5,10 @@
 
 /*! The kind of message that a toast's icon tells. */
 enum ToastType : int {
-    ToastConfirm,
-    ToastPrompt,
-    ToastWarning,
-    ToastError
+    ToastConfirm, //!< It is done.
+    ToastPrompt, //!< It is good to know.
+    ToastWarning, //!< It may go wrong.
+    ToastError //!< It went wrong.
 };
 
 namespace ZIRVOUI {
@@ -20,12 +20,10 @@ class ZSvgWidget;
  * A short message that closes itself: an icon for its kind above a word-wrapped text.
  *
  * The application provides the icons in its own Qt resources:
- * \list
  * \li ToastConfirm: ":/resource/common/tip_svg/tip_ok.svg"
  * \li ToastPrompt: ":/resource/common/tip_svg/tip_info.svg"
  * \li ToastWarning: ":/resource/common/tip_svg/tip_warning.svg"
  * \li ToastError: ":/resource/common/tip_svg/tip_error.svg"
- * \endlist
  *
  * The toast has the size that its content asks for, unless it is given a fixed one.  It is not
  * deleted when it closes and may be shown again.  See ZBaseDialog for placement and modality.
@@ -35,6 +33,7 @@ class ZCOMMONWIDGETS_EXPORT ZToastDialog : public ZBaseDialog
     Q_OBJECT
 
 public:
+    /*! Shows the icon of \a type above \a text; an empty text keeps its place. */
     explicit ZToastDialog(ToastType type, const QString &text, QWidget *parent = nullptr);
     ~ZToastDialog() override;
 
