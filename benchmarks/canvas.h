@@ -8,6 +8,12 @@
 /*! Draws the picture of a \a size that a widget shows in a frame, with a painter as it gets it. */
 using Draw = std::function<void(QPainter &painter, const QSize &size, int frame)>;
 
+/*! How many pixels of the screen a pixel of the painter's takes. */
+inline double pixelRatio(const QPainter &painter)
+{
+    return painter.device()->devicePixelRatioF();
+}
+
 /*! A widget that has nothing but its painter calls. */
 class Canvas : public QWidget
 {

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <memory>
@@ -13,6 +14,8 @@ namespace {
 constexpr int ComparedFrames = 40;
 constexpr int FramesApart = 7; // for a few repaints to see different frames
 constexpr double Least = 0.5; // µs, what reading the clock takes: less cannot be told
+constexpr double TolerableShare = 0.002; // that pictures may differ where pixels are not whole
+constexpr double Percent = 100;
 constexpr double Microseconds = 1e6; // of a second
 
 /*! One row on its stages, for all variants to take turns. */
@@ -33,18 +36,27 @@ private:
 };
 
 // Advances both alike, so that they stay at the same frame.
-int pictureDifference(Stage &library, Stage &bare)
+Difference pictureDifference(Stage &library, Stage &bare)
 {
-    int largest = 0;
+    Difference worst;
     for (int frame = library.moves() ? ComparedFrames : 1; frame > 0; --frame) {
         library.advance();
         bare.advance();
         const QVector<QImage> actual = library.pictures();
         const QVector<QImage> expected = bare.pictures();
-        for (int i = 0; i < actual.size(); ++i)
-            largest = qMax(largest, largestDifference(actual[i], expected[i]));
+        for (int i = 0; i < actual.size(); ++i) {
+            const Difference difference = actual[i] - expected[i];
+            worst.largest = qMax(worst.largest, difference.largest);
+            worst.share = qMax(worst.share, difference.share);
+        }
     }
-    return largest;
+    return worst;
+}
+
+QString toString(const Difference &difference)
+{
+    return difference.largest == 0 ? QStringLiteral("identical")
+                                   : QStringLiteral("%1 of 255").arg(difference.largest);
 }
 
 double repaintTime(Stage &stage, bool isAdvanceMeasured, int repeat)
@@ -106,7 +118,7 @@ struct Means
 void measureRow(const Row &row, int rounds, int repeat, Means &means)
 {
     Company company(row);
-    const int difference = pictureDifference(company[Library], company[Bare]);
+    const Difference difference = pictureDifference(company[Library], company[Bare]);
     const QVector<double> times = repaintTimes(company, row, rounds, repeat);
     const double toBare = times[Library] / times[Bare];
     const double toStyled = times[Library] / times[Styled];
@@ -115,11 +127,9 @@ void measureRow(const Row &row, int rounds, int repeat, Means &means)
     if (!row.hasSvg)
         means.styledWithoutSvg.add(toStyled);
 
-    const QString picture = difference == 0 ? QStringLiteral("identical")
-                                            : QStringLiteral("%1 of 255").arg(difference);
     std::printf("| %s | %.1f | %.1f | %.1f | %.1f | %.2f | %.2f | %s |\n", qPrintable(row.name),
                 times[Library], times[Bare], times[Fusion], times[Styled], toBare, toStyled,
-                qPrintable(picture));
+                qPrintable(toString(difference)));
     std::fflush(stdout);
 }
 
@@ -134,6 +144,25 @@ void measureRows(const Rows &rows, int rounds, int repeat)
         "\nGeometric means: library/bare %.2f, library/styled %.2f, without the rows with an "
         "SVG %.2f\n",
         means.bare.value(), means.styled.value(), means.styledWithoutSvg.value());
+}
+
+/*! Whether the pictures of a row are as close as they have to be at the ratio of the screen. */
+bool compareRow(const Row &row)
+{
+    Stage library(row, Library);
+    Stage bare(row, Bare);
+    const Difference difference = pictureDifference(library, bare);
+    const double ratio = qApp->devicePixelRatio();
+    const bool isClose = difference.share <= (ratio > 1 ? TolerableShare : 0);
+    std::printf("| %s | %g | %s | %.3f %% |%s\n", qPrintable(row.name), ratio,
+                qPrintable(toString(difference)), difference.share * Percent,
+                isClose ? "" : " too far apart");
+    return isClose;
+}
+
+bool compareRows(const Rows &rows)
+{
+    return std::count_if(rows.begin(), rows.end(), compareRow) == rows.size();
 }
 
 void repaintRow(const Row &row, Variant variant, int count)
@@ -186,7 +215,9 @@ int main(int argc, char *argv[])
                                   "count");
     const QCommandLineOption variant(
         "variant", "Only repaint library, bare, fusion, styled or empty.", "name");
-    parser.addOptions({rounds, repeat, only, variant});
+    const QCommandLineOption pictures(
+        "pictures", "Only compare the pictures; fails if one is not what it should be.");
+    parser.addOptions({rounds, repeat, only, variant, pictures});
     parser.process(app);
 
     const Rows rows = rowsNamedLike(parser.positionalArguments().value(0));
@@ -194,6 +225,8 @@ int main(int argc, char *argv[])
         std::fputs("No row has this in its name.\n", stderr);
         return EXIT_FAILURE;
     }
+    if (parser.isSet(pictures))
+        return compareRows(rows) ? EXIT_SUCCESS : EXIT_FAILURE;
     if (parser.isSet(only))
         repaintRows(rows, parser.value(variant), parser.value(only).toInt());
     else

@@ -70,7 +70,7 @@ Row buttonWithIcon()
     };
     const auto bare = [=](QPainter &painter, const QSize &size, int) {
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.drawPixmap(wholeOf(size), icon.pixmap(size), QRectF());
+        painter.drawPixmap(wholeOf(size), icon.pixmap(size * pixelRatio(painter)), QRectF());
         drawButtonText(painter, size, QString());
     };
     const auto stock = [=] {

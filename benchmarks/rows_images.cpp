@@ -1,5 +1,6 @@
 #include "row.h"
 
+#include <QGuiApplication>
 #include <QIcon>
 #include <QLabel>
 #include <QMovie>
@@ -85,11 +86,12 @@ Row bitmap()
 {
     constexpr QSize Size(80, 60);
     const QString path = samplePath("hills.png");
-    const QPixmap picture
-        = QPixmap(path).scaled(Size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QPixmap picture = QPixmap(path).scaled(Size * qApp->devicePixelRatio(),
+                                                 Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     const auto bare = [=](QPainter &painter, const QSize &size, int) {
-        painter.drawPixmap(QPoint(),
-                           picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        painter.drawPixmap(QRect(QPoint(), size),
+                           picture.scaled(size * pixelRatio(painter), Qt::IgnoreAspectRatio,
+                                          Qt::SmoothTransformation));
     };
     return {QStringLiteral("ZSvgWidget, bitmap"),     Size,
             [=] { return new ZSvgWidget(path); },     bare,

@@ -7,7 +7,7 @@ using ZIRVOUI::LineEdit;
 
 namespace {
 
-constexpr double Margin = 2; // that QLineEdit leaves beside its text
+constexpr int Margin = 2; // that QLineEdit leaves beside its text
 
 const QString Text = QStringLiteral("192.168.1.25");
 
@@ -20,7 +20,9 @@ Row lineEdit()
     };
     const auto bare = [](QPainter &painter, const QSize &size, int) {
         painter.setPen(Qt::white);
-        painter.drawText(wholeOf(size).adjusted(Margin, 0, -Margin, 0), Qt::AlignVCenter, Text);
+        const int height = painter.fontMetrics().height();
+        const int top = (size.height() - height + 1) / 2; // a whole one at any ratio
+        painter.drawText(QRect(Margin, top, size.width() - 2 * Margin, height), 0, Text);
     };
     return {QStringLiteral("LineEdit"),
             {200, 36},

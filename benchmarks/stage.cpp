@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QWindow>
+#include <climits>
 #include <cstdio>
 
 namespace {
@@ -84,23 +85,29 @@ void Stage::repaint()
 
 QVector<QImage> Stage::pictures()
 {
-    QImage picture(m_widget->size(), QImage::Format_ARGB32_Premultiplied);
+    const double ratio = m_window.devicePixelRatioF();
+    QImage picture(m_widget->size() * ratio, QImage::Format_ARGB32_Premultiplied);
+    picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::transparent);
     m_widget->render(&picture, QPoint(), QRegion(), QWidget::DrawChildren);
     return {picture,
             m_window.grab().toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied)};
 }
 
-int largestDifference(const QImage &one, const QImage &other)
+Difference operator-(const QImage &one, const QImage &other)
 {
     int largest = 0;
+    double sum = 0;
     for (int y = 0; y < one.height(); ++y) {
         const uchar *a = one.constScanLine(y);
         const uchar *b = other.constScanLine(y);
-        for (int i = 0; i < one.bytesPerLine(); ++i)
-            largest = qMax(largest, qAbs(int(a[i]) - int(b[i])));
+        for (int i = 0; i < one.bytesPerLine(); ++i) {
+            const int levels = qAbs(int(a[i]) - int(b[i]));
+            largest = qMax(largest, levels);
+            sum += levels;
+        }
     }
-    return largest;
+    return {largest, sum / UCHAR_MAX / one.bytesPerLine() / one.height()};
 }
 
 void countedRepaint(Stage &stage, bool isAdvanceCounted)

@@ -40,8 +40,13 @@ private:
     QWidget *m_repainted;
 };
 
-/*! The largest difference in any channel of any pixel, in levels of 255. */
-int largestDifference(const QImage &one, const QImage &other);
+/*! How far apart pictures are: in levels of 255 and in parts of all that they could differ. */
+struct Difference
+{
+    int largest = 0;
+    double share = 0;
+};
+Difference operator-(const QImage &one, const QImage &other);
 
 // scripts/benchmark makes callgrind count the first of these, and write its count down at the
 // second.

@@ -1,21 +1,11 @@
+#include "devicepixels_p.h"
 #include "stretchedpicture_p.h"
 
-#include <QPaintEngine>
 #include <QPainter>
 
 namespace ZIRVOUI {
 
 namespace {
-
-// Whether rect takes whole pixels of the device, which is no larger or turned otherwise.
-bool takesWholePixels(const QPainter &painter, const QRectF &rect)
-{
-    const QTransform toDevice = painter.deviceTransform();
-    const double ratio = pixelRatio(painter);
-    const QRectF onDevice = toDevice.mapRect(rect);
-    return toDevice.type() <= QTransform::TxScale && toDevice.m11() == ratio
-        && toDevice.m22() == ratio && onDevice == onDevice.toRect();
-}
 
 // Opaque if the picture is.
 QPixmap scaled(const QPixmap &picture, const QSizeF &size, double ratio, bool smoothly)
@@ -32,11 +22,6 @@ QPixmap scaled(const QPixmap &picture, const QSizeF &size, double ratio, bool sm
 }
 
 } // namespace
-
-double pixelRatio(const QPainter &painter)
-{
-    return painter.paintEngine()->paintDevice()->devicePixelRatioF();
-}
 
 void StretchedPicture::draw(QPainter &painter, const QRectF &target, const QPixmap &picture,
                             const QRectF &bounds)

@@ -9,9 +9,6 @@ class QPainter;
 
 namespace ZIRVOUI {
 
-/*! How many pixels of the device under \a painter a pixel of its coordinates takes. */
-double pixelRatio(const QPainter &painter);
-
 /*! Draws a picture as the painter scales it, and keeps what it has scaled. */
 class StretchedPicture
 {

@@ -1,13 +1,13 @@
 #include "zbutton.h"
 
 #include "buttonstate_p.h"
+#include "devicepixels_p.h"
 #include "flipchecked_p.h"
 #include "laidouttext_p.h"
 #include "widgetlook_p.h"
 
 #include <QApplication>
 #include <QMouseEvent>
-#include <QPaintEngine>
 #include <QPainter>
 #include <QPointer>
 #include <QStyleOptionButton>
@@ -38,7 +38,7 @@ void drawIcon(QPainter &painter, const QRect &rect, const QIcon &icon)
 {
     // With this attribute QIcon multiplies by a ratio of its own.
     const bool multiplied = QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps);
-    const double ratio = painter.paintEngine()->paintDevice()->devicePixelRatioF();
+    const double ratio = pixelRatio(painter);
     const QSize size = rect.size() * (multiplied ? ratio / qApp->devicePixelRatio() : ratio);
     painter.drawPixmap(QRectF(rect), icon.pixmap(size), QRectF());
 }

@@ -1,6 +1,7 @@
 #include "zimagebutton.h"
 
 #include "buttonstate_p.h"
+#include "devicepixels_p.h"
 #include "flipchecked_p.h"
 #include "kept_p.h"
 #include "laidouttext_p.h"

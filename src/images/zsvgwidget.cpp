@@ -1,9 +1,9 @@
 #include "zsvgwidget.h"
 
+#include "devicepixels_p.h"
 #include "svgfile_p.h"
 
 #include <QIcon>
-#include <QPaintEngine>
 #include <QPainter>
 #include <QPropertyAnimation>
 
@@ -136,8 +136,7 @@ void ZSvgWidget::paintEvent(QPaintEvent *)
         m_svg->read(m_svgPath);
         m_svg->render(&painter, rect());
     } else if (!m_pixmap.isNull()) {
-        // Not the painter's device, which stays the widget when that is rendered elsewhere.
-        fitPixmap(painter.paintEngine()->paintDevice()->devicePixelRatioF());
+        fitPixmap(pixelRatio(painter));
         drawPixmap(painter);
     }
 }

@@ -1,5 +1,7 @@
 #include "zscrollbar.h"
 
+#include "devicepixels_p.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -36,9 +38,9 @@ void drawTrack(QPainter &painter, const QRect &track, const QColor &color)
     if (color.alpha() == 0)
         return;
     painter.setBrush(color);
-    if (qMin(track.width(), track.height()) > 1) {
+    if (qMin(track.width(), track.height()) > 1 && takesWholePixels(painter, track)) {
         painter.drawRoundedRect(track, TrackRadius, TrackRadius);
-    } else { // a single pixel is clipped otherwise than drawn
+    } else { // a single pixel and parts of pixels are clipped otherwise than drawn
         clipToTrack(painter, track);
         painter.drawRect(track);
     }
@@ -46,7 +48,7 @@ void drawTrack(QPainter &painter, const QRect &track, const QColor &color)
 
 void drawHandle(QPainter &painter, const QRect &handle, const QRect &track, const QColor &color)
 {
-    if (handle.isValid() && isBetweenCorners(handle, track))
+    if (handle.isValid() && isBetweenCorners(handle, track) && takesWholePixels(painter, track))
         painter.setClipRect(track); // which costs less
     else
         clipToTrack(painter, track);

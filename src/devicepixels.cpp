@@ -1,0 +1,23 @@
+#include "devicepixels_p.h"
+
+#include <QPaintEngine>
+#include <QPainter>
+
+namespace ZIRVOUI {
+
+double pixelRatio(const QPainter &painter)
+{
+    // Not the painter's device, which stays the widget when that is rendered elsewhere.
+    return painter.paintEngine()->paintDevice()->devicePixelRatioF();
+}
+
+bool takesWholePixels(const QPainter &painter, const QRectF &rect)
+{
+    const QTransform toDevice = painter.deviceTransform();
+    const double ratio = pixelRatio(painter);
+    const QRectF onDevice = toDevice.mapRect(rect);
+    return toDevice.type() <= QTransform::TxScale && toDevice.m11() == ratio
+        && toDevice.m22() == ratio && onDevice == onDevice.toRect();
+}
+
+} // namespace ZIRVOUI
