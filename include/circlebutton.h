@@ -37,7 +37,10 @@ public:
 
     /*! The outline, transparent by default.  Only stores. */
     void setBorderColor(QColor color);
-    /*! The outline's width in pixels; 0, the default, is one pixel.  Only stores. */
+    /*!
+     * The outline's width in pixels; 0, the default, is one pixel, and less draws none round an
+     * ellipse that reaches beyond the widget.  Only stores.
+     */
     void setBorderWidth(int width);
     /*! The ellipse, transparent by default.  Repaints. */
     void setBackgroundColor(QColor color);

@@ -42,7 +42,10 @@ public:
     /*! The degrees that a full range covers, 360 by default. */
     double progressAngle() const;
     void setProgressAngle(double angle);
-    /*! The width of the ring in pixels, 10 by default; from half the figure's size on, no hole. */
+    /*!
+     * The width of the ring in pixels, 10 by default.  From half the figure's size on there is no
+     * hole, with a negative one nothing else.
+     */
     int borderWidth() const;
     void setBorderWidth(int width);
     /*! The hole. */

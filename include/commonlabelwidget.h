@@ -57,7 +57,7 @@ public:
     /*! The label in the middle. */
     ZClickLabel *icoLabel();
 
-    /*! The gaps between the labels in pixels; with -1, at first, the style decides. */
+    /*! The gaps between the labels in pixels; with less than 0, at first, the style decides. */
     void setSpacing(int spacing);
 
 private:

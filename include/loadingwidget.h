@@ -35,7 +35,10 @@ public:
     /*! The spinner stays as it is until start(). */
     void stop();
 
-    /*! The width of the ring and its head in pixels, 10 by default.  Repaints if it is new. */
+    /*!
+     * The width of the ring and its head in pixels, 10 by default.  With 0 the ring is one pixel
+     * wide and has no head, with less there is no ring.  Repaints if it is new.
+     */
     void setWidth(int width);
     /*!
      * Adds colours to the ring, at positions from 0, the head, counter-clockwise to 1, and gives

@@ -36,7 +36,7 @@ public:
     /*! From 0 (invisible) to 1, the default; what lies beyond counts as the nearer of the two. */
     void setOpacity(double opacity);
     double opacity();
-    /*! In pixels of the picture, 60 by default.  One that is not finite does not blur. */
+    /*! In pixels of the picture, 60 by default.  Negative or not finite, it does not blur. */
     void setBlurRadius(double radius);
     double blurRadius();
 

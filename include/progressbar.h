@@ -67,7 +67,7 @@ public Q_SLOTS:
     void setValue(int value);
     /*! Stored for the application; nothing is drawn by it.  False by default. */
     void setPercent(bool percent);
-    /*! The pixels that a full bar lacks at its right, halved; 0 by default. */
+    /*! The pixels that a full bar lacks at its right, halved; 0 by default, less lengthens it. */
     void setPadding(int padding);
     /*! The corner radius of background and fill in pixels, 0 by default; Qt limits it to half of
      * each. */

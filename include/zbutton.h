@@ -36,7 +36,7 @@ public:
     void setBackgroundColor(const QColor &color);
     /*! The text's colour, white by default. */
     void setFontColor(const QColor &color);
-    /*! The corner radius in pixels, 10 by default; Qt limits it to half the button's size. */
+    /*! The corner radius in pixels, 10 by default, from 0 (square) to half the button's size. */
     void setRadius(const int &radius);
     /*! The height of the font in pixels, and repaints; 0 and less leave the size as it is. */
     void setFontSize(int size);

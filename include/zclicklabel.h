@@ -20,7 +20,8 @@ class SvgFile;
  *
  * Text, alignment and word wrap are QLabel's.  The text is drawn as plain text, markup included,
  * in the palette's WindowText colour; QLabel's margin, indent and frame play no part.  A disabled
- * label fades everything but its background to 30 %.
+ * label fades everything but its background to 30 %.  Mouse events go on to the parent, as a
+ * QLabel's do.
  *
  * Every setter repaints unless its description says otherwise.  A slot of any signal may delete
  * the label.
@@ -74,7 +75,10 @@ public:
 
     /*! Shows the yellow triangle; its legs are 40 % of the label's height. */
     void setRightCornerLabels(bool visible);
-    /*! The background's corner radius in pixels, 0 by default.  An equal value does nothing. */
+    /*!
+     * The background's corner radius in pixels, 0 by default; less is square too.  An equal value
+     * does nothing.
+     */
     void setRadius(int radius);
     /*! The background, transparent by default.  An equal value does nothing. */
     void setBgColor(const QColor &color);

@@ -29,7 +29,8 @@ public:
 
     /*!
      * Scales the frames to this size in pixels from the next one on; the widget keeps its own.  A
-     * size of more than 64 million pixels is not taken.
+     * size of more than 64 million pixels is not taken; one without width or height, or negative,
+     * is the file's own.
      */
     void setSize(const int &width, const int &height);
     /*!

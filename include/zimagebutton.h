@@ -57,7 +57,7 @@ public:
     void setBorderColor(const QColor &color);
     /*! The border's width in pixels; 0 (the default) and less draw none.  Only stores. */
     void setBorderWidth(int width);
-    /*! The background's corner radius in pixels, 0 by default.  Only stores. */
+    /*! The background's corner radius in pixels, 0 by default; less is square too.  Only stores. */
     void setRadius(int radius);
     /*!
      * A picture file stretched over the background, corners included, empty for none; repaints.

@@ -37,7 +37,7 @@ public:
     void setTimeNum(const int &time);
     /*! The spinner, which the dialog owns. */
     LoadingWidget *loadingWidget();
-    /*! The pixels between spinner and message, 70 by default. */
+    /*! The pixels between spinner and message, 70 by default; below 0 the style decides. */
     void setSpacing(int spacing);
 
     /*!

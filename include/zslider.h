@@ -45,9 +45,12 @@ public:
     void addGradientColor(const QVector<QPair<double, const QColor &>> &stops);
     /*! The stop at 1 alone, RGB (121, 121, 121) by default: without others, the whole groove. */
     void setGrooveColor(const QColor &color);
-    /*! The corner radius of the groove in pixels, 0 by default. */
+    /*! The corner radius of the groove in pixels, 0 by default; less is square too. */
     void setGrooveRadius(const int &radius);
-    /*! The height of the groove in pixels, 6 by default; one more if the slider's is odd then. */
+    /*!
+     * The height of the groove in pixels, 6 by default; one more if the slider's is odd then.  A
+     * negative one counts as a positive one.
+     */
     void setGrooveThickness(const int &thickness);
     /*! The groove left of the handle's centre, RGB (15, 112, 226) by default. */
     void setGrooveSlippedColor(const QColor &color);
