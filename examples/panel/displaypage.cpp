@@ -31,16 +31,26 @@ constexpr int RadioSpacing = 16;
 constexpr int RadioLine = 3;
 constexpr int BlurStretch = 4;
 
+/*! A choice that takes taps on the whole of its row, where the style wants its own circle hit. */
+class RowRadio : public ZRadioButton
+{
+public:
+    using ZRadioButton::ZRadioButton;
+
+protected:
+    bool hitButton(const QPoint &position) const override { return rect().contains(position); }
+};
+
 ZRadioButton *newRadio(Look *look, const QString &name)
 {
-    auto *radio = new ZRadioButton(name);
+    auto *radio = new RowRadio(name);
     radio->setFixedHeight(RadioHeight);
     radio->setSpacing(RadioSpacing);
     radio->setThickness(RadioLine);
     QFont font = radio->font();
     font.setPixelSize(Parts::TextSize);
     radio->setFont(font);
-    return look->dress(radio, [name](ZRadioButton *radio, const Theme &theme) {
+    return look->dress<ZRadioButton>(radio, [name](ZRadioButton *radio, const Theme &theme) {
         radio->setChecked(theme.name == name);
         radio->setTextColor(theme.ink);
         radio->setExternalCircleLineColor(theme.quietInk);

@@ -28,7 +28,7 @@ const char AutomaticKey[] = "network/automatic";
 constexpr int FieldGap = 8; // between a caption and its field
 constexpr int FieldMargin = 16;
 constexpr int FocusAlpha = 90; // of the accent, over the card
-constexpr int WorkTime = 1500; // ms
+constexpr int WorkTime = 2500; // ms
 
 void paintField(LineEdit *edit, const Theme &theme)
 {

@@ -13,7 +13,7 @@ namespace {
 
 constexpr QSize ToastSize(480, 152);
 constexpr int ToastIcon = 48;
-constexpr int ToastDelay = 2000; // ms
+constexpr int ToastDelay = 2500; // ms
 constexpr int ToastMargin = 40; // to the bottom of the window
 
 constexpr QSize DialogSize(440, 320);
@@ -23,7 +23,8 @@ constexpr int BlurRadius = 8;
 
 MaskWidget *newBackdrop(QWidget *window)
 {
-    const QPixmap picture = window->grab();
+    QPixmap picture = window->grab();
+    picture.setDevicePixelRatio(1); // on a dense screen the blur would cover a part of it
     auto *backdrop = new MaskWidget(window);
     backdrop->setGeometry(window->rect());
     backdrop->setDistance(0);
@@ -45,8 +46,10 @@ void Notices::toast(QWidget *page, ToastType type, const QString &text)
     toast->setIcoSize(ToastIcon, ToastIcon);
     toast->setFixedSize(ToastSize);
     toast->setDelayMS(ToastDelay);
-    toast->findChild<ZClickLabel *>()->setTextSize(Parts::TextSize);
-    toast->move(window->width() / 2 - toast->width() / 2,
+    auto *label = toast->findChild<ZClickLabel *>();
+    label->setTextSize(Parts::TextSize);
+    label->setFixedWidth(ToastSize.width()); // or it takes two lines where one would do
+    toast->move(page->mapTo(window, page->rect().center()).x() - toast->width() / 2,
                 window->height() - toast->height() - ToastMargin);
     QObject::connect(toast, &QDialog::finished, toast, &QObject::deleteLater);
     toast->show();
