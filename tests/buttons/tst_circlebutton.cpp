@@ -1,28 +1,25 @@
 #include "buttontest.h"
 
 #include <circlebutton.h>
-#include <tuple>
 #include <zsvgwidget.h>
 
-using ZIRVOUI::CircleButton;
-using ZIRVOUI::ZSvgWidget;
+using namespace ZIRVOUI;
 
-class TestCircleButton : public QObject
+class TestCircleButton : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { failOnWarnings(); }
-
     void paints()
     {
         const QColor color(30, 120, 60, 200);
-        CircleButton button(QStringLiteral("missing.svg"));
-        button.setText(QStringLiteral("A && B"));
+        CircleButton button("missing.svg");
+        button.setText("A && B");
         button.setFontSize(13);
         button.setFontColor(Qt::yellow);
-        button.setBackgroundColor(color);
-        button.setBorderColor(Qt::red);
+        QVERIFY(
+            !repaints(button, [&] { button.setBorderColor(Qt::red), button.setBorderWidth(3); }));
+        QVERIFY(repaints(button, [&] { button.setBackgroundColor(color); }));
         for (const double width : {0.0, 5.0}) {
             const double half = width / 2;
             button.setBorderWidth(int(width));
@@ -39,7 +36,7 @@ private Q_SLOTS:
 
     void keepsTheSizeOfItsFirstIcon()
     {
-        SampleFile svg(QStringLiteral("icon.svg"));
+        SampleFile svg("icon.svg");
         svg.writeSvg("red");
         CircleButton button(svg.path());
         svg.write("<svg width='50' height='50'/>");
@@ -86,19 +83,9 @@ private Q_SLOTS:
         }
     }
 
-    void onlyItsBackgroundRepaints()
-    {
-        CircleButton button((QString()));
-        QVERIFY(
-            !repaints(button, [&] { button.setBorderColor(Qt::red), button.setBorderWidth(3); }));
-        QVERIFY(repaints(button, [&] { button.setBackgroundColor(Qt::red); }));
-    }
-
     void mayBeDeletedInItsSlots()
     {
-        QVERIFY(mayBeDeletedIn(&QAbstractButton::pressed, new CircleButton(QString())));
-        QVERIFY(mayBeDeletedIn(&QAbstractButton::clicked, new CircleButton(QString())));
-
+        QVERIFY(mayBeDeletedInSlots([] { return new CircleButton(QString()); }));
         QPointer<CircleButton> button = new CircleButton(QString());
         button->setLongPressRepeat(true);
         connect(button, &CircleButton::signal_longPressed, this, [&] { delete button.data(); });

@@ -4,18 +4,15 @@
 
 using ZIRVOUI::ImageSwitchButton;
 
-class TestImageSwitchButton : public QObject
+class TestImageSwitchButton : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { failOnWarnings(); }
-
     void showsTheIconOfItsState()
     {
-        SampleFile open(QStringLiteral("open.svg"));
+        const SampleFile open("open.svg"), closed("closed.svg");
         open.writeSvg("lime");
-        SampleFile closed(QStringLiteral("closed.svg"));
         closed.writeSvg("red");
         ImageSwitchButton button(open.path(), closed.path());
         QSignalSpy clicks(&button, &ImageSwitchButton::signal_clicked);

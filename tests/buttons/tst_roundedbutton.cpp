@@ -1,5 +1,6 @@
 #include "buttontest.h"
 
+#include <QPainterPath>
 #include <roundedbutton.h>
 
 static QPainterPath outline(const QRectF &rect, double r)
@@ -15,46 +16,41 @@ static QPainterPath outline(const QRectF &rect, double r)
     return path;
 }
 
-class TestRoundedButton : public QObject
+class TestRoundedButton : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { failOnWarnings(); }
-
     void paints()
     {
-        const QColor color(200, 40, 90, 160);
-        const QColor line(0, 90, 200, 120);
-        const QPixmap pixmap = spottedPixmap();
+        const QColor color(200, 40, 90, 160), line(0, 90, 200, 120);
         RoundedButton button;
-        button.setText(QStringLiteral("MM&&M"));
+        button.setText("MM&&M");
         button.setFontSize(44); // reaches beyond the corners
         button.setBackgroundColor(color);
-        for (const bool image : {true, false}) {
-            button.setBackgroundImage(image ? pixmap : QPixmap());
-            if (!image)
+        for (const QPixmap &image : {spottedPixmap(), QPixmap()}) {
+            button.setBackgroundImage(image);
+            if (image.isNull())
                 button.setBorderColor(line);
-            for (const int radius : {0, 20, 40}) {
+            for (const int radius : {0, 9, 20, 40}) {
                 const int border = radius / 8; // odd and even
                 const int inset = border / 2;
                 button.setRadius(radius);
                 button.setBorderWidth(border);
-                const QPen pen(image ? QColor(Qt::black) : line, border, Qt::SolidLine,
+                const QPen pen(image.isNull() ? line : QColor(Qt::black), border, Qt::SolidLine,
                                Qt::SquareCap, Qt::BevelJoin);
                 const auto draw = [&](QPainter &painter, const QRect &all) {
                     const QColor up = button.isEnabled() ? color : QColor(102, 102, 102, 160);
+                    const QRect inner = all.adjusted(inset, inset, -inset, -inset);
                     painter.setRenderHint(QPainter::SmoothPixmapTransform);
                     painter.setClipPath(outline(all, radius));
-                    if (image)
-                        painter.drawPixmap(all, pixmap);
-                    else
+                    if (image.isNull())
                         painter.fillPath(outline(all, radius),
                                          button.isDown() ? color.lighter(130) : up);
+                    painter.drawPixmap(all, image);
                     painter.setClipping(false);
                     if (border > 0)
-                        painter.strokePath(
-                            outline(all.adjusted(inset, inset, -inset, -inset), radius), pen);
+                        painter.strokePath(outline(inner, radius), pen);
                     painter.setClipping(true);
                     painter.setPen(Qt::white);
                     painter.drawText(all, Qt::AlignCenter, button.text());
@@ -64,6 +60,21 @@ private Q_SLOTS:
         }
     }
 
+    void clicksUnlessTheFingerLeavesIt()
+    {
+        RoundedButton button;
+        button.show();
+        QSignalSpy clicks(&button, &RoundedButton::signal_clicked);
+        Finger finger(button, Qt::RightButton);
+        finger.tap({5, 5});
+        QCOMPARE(clicks.count(), 1);
+        finger.press({5, 5});
+        finger.move({5, -5});
+        finger.move({5, 5});
+        finger.release({5, 5});
+        QCOMPARE(clicks.count(), 1);
+    }
+
     void mayBeDeletedInItsSlots()
     {
         for (auto signal : {&RoundedButton::signal_mousePressed,
@@ -71,19 +82,18 @@ private Q_SLOTS:
             QVERIFY(mayBeDeletedIn(signal, new RoundedButton));
             QVERIFY(mayBeDeletedIn(signal, new RoundedButton, Qt::RightButton));
         }
-        QVERIFY(mayBeDeletedIn(&QAbstractButton::pressed, new RoundedButton));
-        QVERIFY(mayBeDeletedIn(&QAbstractButton::clicked, new RoundedButton));
+        QVERIFY(mayBeDeletedInSlots([] { return new RoundedButton; }));
     }
 
     void repaintsOnlyForNewValues()
     {
         RoundedButton button;
+        QVERIFY(staysCheckedInItsGroup(button));
         const QPixmap pixmap(2, 2);
-        const auto setImage = [&] { button.setBackgroundImage(pixmap); };
-        QVERIFY(!repaints(button, [&] { button.setRadius(0); }));
-        QVERIFY(!repaints(button, [&] { button.setBackgroundImage({}); }));
-        QVERIFY(repaints(button, setImage));
-        QVERIFY(!repaints(button, setImage));
+        QVERIFY(!repaints(button, [&] { button.setRadius(0), button.setBackgroundImage({}); }));
+        QVERIFY(repaints(button, [&] { button.setRadius(1); }));
+        QVERIFY(repaints(button, [&] { button.setBackgroundImage(pixmap); }));
+        QVERIFY(!repaints(button, [&] { button.setBackgroundImage(pixmap); }));
         QVERIFY(repaints(button, [&] { button.setBorderWidth(0); }));
         QVERIFY(repaints(button, [&] { button.setBorderColor({}); }));
     }

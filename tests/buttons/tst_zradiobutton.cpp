@@ -4,33 +4,34 @@
 
 using ZIRVOUI::ZRadioButton;
 
-class TestZRadioButton : public QObject
+class TestZRadioButton : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { failOnWarnings(); }
-
     void paints()
     {
-        ZRadioButton button(QStringLiteral("A && B"));
-        button.setFont(QFont(QStringLiteral("DejaVu Sans"), 13));
-        button.setExternalCircleFillColor(QColor(200, 60, 60, 90));
+        const QColor fill(200, 60, 60, 90), gray("#979797");
+        ZRadioButton button("A && B");
+        button.setFont(QFont("DejaVu Sans", 13));
         button.setAutoExclusive(false); // so that it can be off again
         for (const int thickness : {2, 13}) { // at times too thick for a dot
             for (const bool checked : {false, true}) {
-                button.setThickness(thickness);
                 button.setChecked(checked);
+                QVERIFY(!repaints(button, [&] {
+                    button.setExternalCircleFillColor(fill);
+                    button.setThickness(thickness);
+                }));
                 const auto draw = [&](QPainter &painter, const QRect &all) {
                     const int center = qMin(all.width(), all.height()) / 2;
                     const int radius = center - thickness;
                     const double dot = checked ? qMax(0.0, 0.8 * center - thickness) : 0.0;
                     painter.setOpacity(button.isEnabled() ? 1.0 : 0.4);
-                    painter.setPen(QPen(QColor("#979797"), thickness));
-                    painter.setBrush(QColor(200, 60, 60, 90));
+                    painter.setPen(QPen(gray, thickness));
+                    painter.setBrush(fill);
                     painter.drawEllipse(QPoint(center, center), radius, radius);
                     painter.setPen(Qt::NoPen);
-                    painter.setBrush(QColor("#979797"));
+                    painter.setBrush(gray);
                     painter.drawEllipse(QPointF(center, center), dot, dot);
                     painter.setOpacity(1.0);
                     painter.setPen(Qt::white);
@@ -42,24 +43,26 @@ private Q_SLOTS:
         }
     }
 
-    void mayBeDeletedInItsSlots()
+    void showsNothingIfItsColorsAreNone()
     {
-        QVERIFY(mayBeDeletedIn(&QAbstractButton::toggled, new ZRadioButton));
-        QVERIFY(mayBeDeletedIn(&QAbstractButton::clicked, new ZRadioButton));
+        ZRadioButton button("text");
+        button.setChecked(true);
+        QVERIFY(!repaints(button, [&] {
+            button.setExternalCircleLineColor(Qt::transparent);
+            button.setInternalCircleFillColor(Qt::transparent);
+            button.setTextColor(Qt::transparent);
+        }));
+        COMPARE_PICTURES(snapshot(button), blankPicture(button.size()));
+        button.setTextColor(Qt::red);
+        button.setSpacing(Huge);
+        COMPARE_PICTURES(snapshot(button), blankPicture(button.size()));
     }
 
-    void settersOnlyStore()
+    void isCheckedAsSafelyAsAStockOne()
     {
         ZRadioButton button;
-        QVERIFY(!repaints(button, [&] {
-            button.setSpacing(Huge);
-            button.setThickness(3);
-            button.setExternalCircleLineColor(Qt::red);
-            button.setExternalCircleFillColor(Qt::red);
-            button.setInternalCircleFillColor(Qt::red);
-            button.setTextColor(Qt::red);
-        }));
-        snapshot(button);
+        QVERIFY(staysCheckedInItsGroup(button));
+        QVERIFY(mayBeDeletedInSlots([] { return new ZRadioButton; }));
     }
 };
 

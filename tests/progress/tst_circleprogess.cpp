@@ -12,13 +12,11 @@ struct Look
 };
 Q_DECLARE_METATYPE(Look)
 
-class TestCircleProgess : public QObject
+class TestCircleProgess : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { failOnWarnings(); }
-
     void paints_data()
     {
         QTest::addColumn<Look>("look");
@@ -48,15 +46,15 @@ private Q_SLOTS:
             ring.setCircleColor(QColor(120, 120, 120, 200));
             ring.setProgressColor(Qt::green);
         }));
-        comparePictures(ring, {{61, 90}, {100, 60}}, [&](QPainter &painter, const QSize &size) {
-            const int side = qMin(size.width(), size.height());
+        comparePictures(ring, {{61, 90}, {100, 60}}, [&](QPainter &painter, const QRect &all) {
+            const int side = qMin(all.width(), all.height());
+            const int hole = side - 2 * look.border;
             painter.setBrush(QColor(120, 120, 120, 200));
             painter.drawEllipse(0, 0, side, side);
             painter.setBrush(Qt::green);
             if (look.span != 0)
                 painter.drawPie(0, 0, side, side, look.start, look.span);
             painter.setBrush(QColor(30, 30, 200, 150));
-            const int hole = side - 2 * look.border;
             if (hole > 0)
                 painter.drawEllipse(look.border, look.border, hole, hole);
         });

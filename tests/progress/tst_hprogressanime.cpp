@@ -5,29 +5,24 @@
 
 using ZIRVOUI::HProgressAnime;
 
-class TestHProgressAnime : public QObject
+class TestHProgressAnime : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { failOnWarnings(); }
-
     void paints()
     {
         // After milliseconds, the left edge of the bar and its width.
-        const QMap<int, QPair<int, int>> bars
-            = {{0, {0, 0}},       {120, {0, 187}},     {240, {0, 375}},
-               {960, {900, 375}}, {1199, {1198, 375}}, {1320, {0, 187}}};
+        const int bars[][3] = {{0, 0, 0},       {120, 0, 187},     {240, 0, 375},
+                               {960, 900, 375}, {1199, 1198, 375}, {1320, 0, 187}};
         HProgressAnime strip;
         QVERIFY(paintsOnlyWhenShown(strip));
-        for (auto bar = bars.begin(); bar != bars.end(); ++bar) {
-            for (auto *animation : strip.findChildren<QVariantAnimation *>()) {
-                QCOMPARE(animation->loopCount(), -1);
-                animation->setCurrentTime(bar.key());
-            }
-            comparePictures(strip, {{1300, 9}, {201, 9}}, [&](auto &painter, const QSize &size) {
-                painter.fillRect(QRect(QPoint(), size), QColor("#3A3A3A"));
-                painter.fillRect(bar->first, 0, bar->second, 9, Qt::white);
+        for (const auto &[time, left, width] : bars) {
+            for (auto *animation : strip.findChildren<QVariantAnimation *>())
+                animation->setCurrentTime(time);
+            comparePictures(strip, {{1300, 9}, {201, 9}}, [&](auto &painter, const QRect &all) {
+                painter.fillRect(all, QColor("#3A3A3A"));
+                painter.fillRect(left, 0, width, 9, Qt::white);
             });
         }
     }

@@ -1,17 +1,17 @@
 #include "progresstest.h"
 
 #include <QPainterPath>
+#include <QScreen>
+#include <QWindow>
 #include <loadingwidget.h>
 
 using ZIRVOUI::LoadingWidget;
 
-class TestLoadingWidget : public QObject
+class TestLoadingWidget : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { failOnWarnings(); }
-
     void paints()
     {
         QConicalGradient gradient(0, 0, 0);
@@ -26,10 +26,10 @@ private Q_SLOTS:
             const double line = width;
             const int half = width / 2;
             comparePictures(
-                spinner, {{90, 90}, {201, 101}}, [&](QPainter &painter, const QSize &size) {
-                    const int radius = size.height() / 2;
+                spinner, {{90, 90}, {201, 101}}, [&](QPainter &painter, const QRect &all) {
+                    const int radius = all.height() / 2;
                     const int diameter = 2 * (radius - half);
-                    painter.translate(size.width() / 2, radius);
+                    painter.translate(all.width() / 2, radius);
                     painter.rotate(2 * turned % 360);
                     painter.setPen({gradient, line, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin});
                     painter.drawArc(half - radius, half - radius, diameter, diameter, 0, 5760);
@@ -81,6 +81,19 @@ private Q_SLOTS:
         spinner.start();
         QVERIFY(paintsOnlyWhenShown(spinner));
         QVERIFY(turns());
+
+        // It is seen where it was stopped, though it ticks more often than it is painted.
+        spinner.show();
+        QScreen *screen = spinner.windowHandle()->screen();
+        for (int i = 0; i < 20; ++i) {
+            spinner.start();
+            QTest::qWait(20);
+            spinner.stop();
+            QCoreApplication::processEvents();
+            const QImage seen = screen->grabWindow(spinner.winId()).toImage();
+            QVERIFY(!seen.isNull());
+            COMPARE_PICTURES(seen, spinner.grab().toImage());
+        }
     }
 
     void sharesTheFramesOfItsWindow()

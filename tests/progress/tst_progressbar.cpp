@@ -12,13 +12,11 @@ struct Look
 };
 Q_DECLARE_METATYPE(Look)
 
-class TestProgressBar : public QObject
+class TestProgressBar : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { failOnWarnings(); }
-
     void paints_data()
     {
         QTest::addColumn<Look>("look");
@@ -39,22 +37,24 @@ private Q_SLOTS:
         const QColor color(10, 200, 90, 120);
         for (const QBrush &brush : {QBrush(Qt::NoBrush), QBrush(gradient)}) {
             ProgressBar bar;
+            const QColor ground = bar.getBgColor();
+            const QHash<QString, QVariant> properties
+                = {{"m_minValue", look.min},      {"m_maxValue", look.max},
+                   {"m_padding", look.padding},   {"m_radius", look.radius},
+                   {"m_valueBrush", brush},       {"m_valueColor", color},
+                   {"m_bgColor", ground},         {"m_percent", true},
+                   {"m_tipColor", QColor("red")}, {"m_textColor", QColor("red")}};
             QVERIFY(!repaints(bar, [&] {
                 bar.setRange(-Huge, Huge);
                 bar.setValue(look.value);
-                bar.setRange(look.min, look.max);
-                bar.setPercent(true);
-                bar.setPadding(look.padding);
-                bar.setRadius(look.radius);
-                bar.setValueBrush(brush);
-                bar.setValueColor(color);
-                bar.setBgColor(bar.getBgColor());
-                bar.setTipColor(Qt::red);
-                bar.setTextColor(Qt::red);
+                for (auto property = properties.begin(); property != properties.end(); ++property)
+                    QVERIFY(bar.setProperty(qPrintable(property.key()), *property));
             }));
-            comparePictures(bar, {{205, 31}}, [&](QPainter &painter, const QSize &size) {
+            for (auto property = properties.begin(); property != properties.end(); ++property)
+                QCOMPARE(bar.property(qPrintable(property.key())), *property);
+            comparePictures(bar, {{205, 31}}, [&](QPainter &painter, const QRect &all) {
                 painter.setBrush(Qt::darkGray);
-                painter.drawRoundedRect(QRect(QPoint(), size), look.radius, look.radius);
+                painter.drawRoundedRect(all, look.radius, look.radius);
                 painter.setBrush(brush == QBrush(Qt::NoBrush) ? QBrush(color) : brush);
                 painter.drawRoundedRect(QRectF(0, 0, look.length, 31), look.radius, look.radius);
             });
@@ -80,18 +80,6 @@ private Q_SLOTS:
         QCOMPARE(stored(0.5, 10.5, 0), 0.0);
         QCOMPARE(stored(8, 2, 5.0), 8.0);
         QCOMPARE(stored(1e300, 1e301, 5), double(INT_MAX));
-    }
-
-    void liesOpenToTheMetaObject()
-    {
-        QCOMPARE(ownMembers(ProgressBar::staticMetaObject),
-                 QByteArray("m_minValue m_maxValue m_curValue m_percent m_padding m_radius "
-                            "m_valueBrush m_valueColor m_bgColor m_tipColor m_textColor "
-                            "valueChanged(double) setRange(double,double) setRange(int,int) "
-                            "setMinValue(double) setMaxValue(double) setValue(double) "
-                            "setValue(int) setPercent(bool) setPadding(int) setRadius(int) "
-                            "setValueBrush(QBrush) setValueColor(QColor) setBgColor(QColor) "
-                            "setTipColor(QColor) setTextColor(QColor)"));
     }
 };
 

@@ -10,9 +10,9 @@ using ZIRVOUI::RotateProgress;
 namespace {
 
 /*! The figure at an instant of its turn, which lasts 2800 ms, and of the burst after it. */
-void drawFigure(QPainter &painter, const QSize &size, int turn, int burst)
+void drawFigure(QPainter &painter, const QRect &all, int turn, int burst)
 {
-    const QPoint center((size.width() - 1) / 2, (size.height() - 1) / 2);
+    const QPoint center = all.center();
     const double radius = 200 + 1.7 * burst;
     const auto square
         = [&](double r) { return QRectF(center.x() - r, center.y() - r, 2 * r, 2 * r); };
@@ -35,7 +35,7 @@ void drawFigure(QPainter &painter, const QSize &size, int turn, int burst)
         return;
     QRadialGradient glow(center, 200 + burst);
     glow.setStops({{0.0, QColor(228, 217, 22)}, {1.0, QColor(229, 247, 56, 0)}});
-    const int half = size.width() / 2;
+    const int half = all.width() / 2;
     painter.setOpacity(1.0);
     painter.setBrush(glow);
     painter.drawEllipse(center.x() - half, center.y() - half, 2 * half, 2 * half);
@@ -56,13 +56,11 @@ void hold(const RotateProgress &widget, int time)
 
 } // namespace
 
-class TestRotateProgress : public QObject
+class TestRotateProgress : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { failOnWarnings(); }
-
     void paintsUntilStopped()
     {
         RotateProgress widget;
@@ -72,10 +70,9 @@ private Q_SLOTS:
             // Stopped in any phase it draws nothing, and starts from the beginning.
             widget.startAnmition();
             hold(widget, time);
-            comparePictures(widget, {{420, 420}, {451, 303}},
-                            [&](auto &painter, const QSize &size) {
-                                drawFigure(painter, size, qMin(time, 2800), qMax(0, time - 2800));
-                            });
+            comparePictures(widget, {{420, 420}, {451, 303}}, [&](auto &painter, const QRect &all) {
+                drawFigure(painter, all, qMin(time, 2800), qMax(0, time - 2800));
+            });
             widget.stopAnmition();
             COMPARE_PICTURES(snapshot(widget), blankPicture(widget.size()));
             for (const auto *animation : widget.findChildren<QVariantAnimation *>())
@@ -87,8 +84,8 @@ private Q_SLOTS:
             widget.startAnmition();
             hold(widget, time);
         }
-        comparePictures(widget, {{420, 420}}, [](QPainter &painter, const QSize &size) {
-            drawFigure(painter, size, 1400, 200);
+        comparePictures(widget, {{420, 420}}, [](QPainter &painter, const QRect &all) {
+            drawFigure(painter, all, 1400, 200);
         });
     }
 };

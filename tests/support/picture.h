@@ -4,8 +4,8 @@
 #include <QImage>
 #include <QPainter>
 #include <QString>
-
-class QWidget;
+#include <QTest>
+#include <QWidget>
 
 /*! A transparent picture of \a size at a device pixel ratio. */
 QImage blankPicture(const QSize &size, int ratio = 1);
@@ -34,5 +34,27 @@ QString difference(const QImage &actual, const QImage &expected);
         const QString found = difference(actual, expected);                                        \
         QVERIFY2(found.isEmpty(), qPrintable(found));                                              \
     } while (false)
+
+/*!
+ * Compares what \a widget draws with what \a draw(painter, rect) does, at each of \a sizes and at
+ * both pixel ratios. The painter is smooth, and has the font of the widget but no pen.
+ */
+template <typename Draw>
+void comparePictures(QWidget &widget, std::initializer_list<QSize> sizes, Draw draw)
+{
+    for (const QSize size : sizes) {
+        const QRect all(QPoint(), size);
+        widget.setFixedSize(size);
+        for (const int ratio : {1, 2}) {
+            const auto prepareAndDraw = [&](QPainter &painter) {
+                painter.setRenderHint(QPainter::Antialiasing);
+                painter.setFont(widget.font());
+                painter.setPen(Qt::NoPen);
+                draw(painter, all);
+            };
+            COMPARE_PICTURES(snapshot(widget, ratio), reference(size, prepareAndDraw, ratio));
+        }
+    }
+}
 
 #endif

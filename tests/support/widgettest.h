@@ -12,4 +12,13 @@
 #include <climits>
 #include <limits>
 
+/*! The base of the test of a widget: no warning of Qt's passes. */
+class WidgetTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { failOnWarnings(); }
+};
+
 #endif
