@@ -1,25 +1,24 @@
 #include "widgettest.h"
 
 #include <QMovie>
-#include <QPointer>
 #include <zgifwidget.h>
 
 using ZIRVOUI::ZGifWidget;
 
-class TestZGifWidget : public QObject
+class TestZGifWidget : public WidgetTest
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void initTestCase()
+public:
+    TestZGifWidget()
     {
-        failOnWarnings();
         // 4 × 2 pixels of red and of blue, 50 ms each, for ever.
         m_gif.write(QByteArray::fromBase64(
             "R0lGODlhBAACAPAAAP8AAAAA/yH5BAQFAAAAIf8LTkVUU0NBUEUyLjADAQAAACwAAAAABAACAAACA4RvBQAh+"
             "QQEBQAAACwAAAAABAACAAACA4xvBQA7"));
     }
 
+private Q_SLOTS:
     void plays()
     {
         ZGifWidget widget(m_gif.path());
@@ -35,8 +34,7 @@ private Q_SLOTS:
         widget.movie()->setPaused(true);
         for (const QColor color : {Qt::red, Qt::blue, Qt::red}) {
             widget.movie()->jumpToFrame(color == Qt::blue);
-            const auto fill = [&](QPainter &painter) { painter.fillRect(0, 0, 10, 6, color); };
-            COMPARE_PICTURES(snapshot(widget), reference({10, 6}, fill));
+            comparePictures(widget, {{10, 6}}, [&](auto &p, auto &all) { p.fillRect(all, color); });
         }
         QVERIFY(!repaints(widget, [] { QTest::qWait(100); }));
     }
@@ -63,14 +61,6 @@ private Q_SLOTS:
             widget.toDefaultSize();
             QCOMPARE(widget.size(), QSize(4, 2));
         }
-    }
-
-    void endsWithItsMovie()
-    {
-        auto *widget = new ZGifWidget(m_gif.path());
-        const QPointer<QMovie> movie(widget->movie());
-        delete widget;
-        QVERIFY(!movie);
     }
 
 private:

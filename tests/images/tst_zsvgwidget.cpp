@@ -6,7 +6,7 @@
 
 using ZIRVOUI::ZSvgWidget;
 
-class TestZSvgWidget : public QObject
+class TestZSvgWidget : public WidgetTest
 {
     Q_OBJECT
 
@@ -19,52 +19,46 @@ class TestZSvgWidget : public QObject
     }
 
 private Q_SLOTS:
-    void initTestCase() { failOnWarnings(); }
-
     void paints_data()
     {
-        QTest::addColumn<bool>("enabled");
-        QTest::addColumn<double>("opacity");
+        QTest::addColumn<double>("opacity"); // when it is enabled
         QTest::addColumn<double>("angle");
-        QTest::newRow("plain") << true << 1.0 << 0.0;
-        QTest::newRow("faded and turned") << true << 0.5 << 30.0;
-        QTest::newRow("disabled in a blink") << false << 0.0 << 90.0;
-        QTest::newRow("an angle that is none") << true << 1.0 << qInf();
+        QTest::newRow("plain") << 1.0 << 0.0;
+        QTest::newRow("faded and turned") << 0.5 << 30.0;
+        QTest::newRow("disabled in a blink") << 0.0 << 90.0;
+        QTest::newRow("an angle that is none") << 1.0 << qInf();
     }
 
     void paints()
     {
-        QFETCH(bool, enabled);
         QFETCH(double, opacity);
         QFETCH(double, angle);
-        const SampleFile file(QStringLiteral("icon.svg"));
+        const SampleFile file("icon.svg");
         file.writeSvg("green");
         for (const bool svg : {true, false}) {
             QPixmap bitmap = checkers({20, 12});
             ZSvgWidget widget(svg ? file.path() : QString());
             widget.setmPixmap(bitmap); // which does not replace an SVG
-            widget.setEnabled(enabled);
+            widget.setDisabled(opacity == 0.0);
             widget.setOpacity(opacity);
             widget.setRotateAngle(angle);
-
-            for (const QSize size : {QSize(60, 40), QSize(33, 25)}) {
-                const QRect all(QPoint(), size);
-                const QPoint center(size.width() / 2, size.height() / 2);
+            const auto mode = opacity == 0.0 ? QIcon::Disabled : QIcon::Normal;
+            comparePictures(widget, {{60, 40}, {33, 25}}, [&](QPainter &painter, const QRect &all) {
+                const QPoint center(all.width() / 2, all.height() / 2);
                 // The widget scales its bitmap in place: the small one is made from the large one.
-                bitmap = bitmap.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-                const auto draw = [&](QPainter &painter) {
-                    painter.translate(center);
-                    painter.rotate(qIsInf(angle) ? 0 : angle);
-                    painter.translate(-center);
-                    painter.setOpacity(enabled ? opacity : 0.3);
-                    const auto mode = enabled ? QIcon::Normal : QIcon::Disabled;
-                    if (svg)
-                        QSvgRenderer(file.path()).render(&painter, all);
-                    else
-                        QIcon(bitmap).paint(&painter, all, Qt::AlignCenter, mode);
-                };
-                COMPARE_PICTURES(snapshot(widget, size), reference(size, draw));
-            }
+                const int ratio = painter.device()->devicePixelRatio();
+                bitmap = bitmap.scaled(all.size() * ratio, {}, Qt::SmoothTransformation);
+                bitmap.setDevicePixelRatio(ratio);
+                painter.setRenderHint(QPainter::Antialiasing, false);
+                painter.translate(center);
+                painter.rotate(qIsInf(angle) ? 0 : angle);
+                painter.translate(-center);
+                painter.setOpacity(opacity == 0.0 ? 0.3 : opacity);
+                if (svg)
+                    QSvgRenderer(file.path()).render(&painter, all);
+                else
+                    painter.drawPixmap(all, QIcon(bitmap).pixmap(bitmap.size(), mode));
+            });
         }
     }
 
@@ -88,16 +82,15 @@ private Q_SLOTS:
 
     void showsTheIconLoadedLast()
     {
-        const SampleFile svg(QStringLiteral("ICON.SVG"));
+        const SampleFile svg("ICON.SVG"), bitmap("icon.ppm");
         svg.writeSvg("red");
-        const SampleFile bitmap(QStringLiteral("icon.ppm"));
         bitmap.write("P6 1 1 255 abc");
 
         ZSvgWidget widget(svg.path());
         widget.resize(20, 10);
         widget.loadSvgImage(bitmap.path());
         QCOMPARE(snapshot(widget).pixelColor(1, 1), QColor('a', 'b', 'c'));
-        widget.loadSvgImage(QStringLiteral("missing.png"));
+        widget.loadSvgImage("missing.png");
         COMPARE_PICTURES(snapshot(widget), blankPicture(widget.size()));
         QCOMPARE(widget.sizeHint(), QWidget().sizeHint());
 
@@ -105,13 +98,13 @@ private Q_SLOTS:
         QCOMPARE(widget.sizeHint(), QSize(20, 10));
         QCOMPARE(widget.getSvgSize(svg.path()), QSize(20, 10));
         QVERIFY(!widget.getSvgSize({}).isValid());
-        widget.loadSvgImage(QStringLiteral("missing.svg"));
+        widget.loadSvgImage("missing.svg");
         QVERIFY(!widget.sizeHint().isValid());
     }
 
     void showsTheFirstFrameOfAnAnimation()
     {
-        const SampleFile svg(QStringLiteral("icon.svg"));
+        const SampleFile svg("icon.svg");
         svg.write("<svg xmlns='http://www.w3.org/2000/svg' width='8' height='8'>"
                   "<rect width='8' height='8' fill='red'><animateColor attributeName='fill' "
                   "dur='1s' values='#f00;#00f' repeatCount='indefinite'/></rect></svg>");
@@ -127,8 +120,11 @@ private Q_SLOTS:
         ZSvgWidget widget;
         widget.startBlinking();
         widget.startBlinking();
+        QElapsedTimer timer;
+        timer.start();
         for (const bool visible : {false, true, false, true})
             QTRY_COMPARE(widget.opacity() > 0.5, visible);
+        QVERIFY(timer.elapsed() > 1200); // of 1750 ms
         widget.stopBlinking();
         QVERIFY(!repaints(widget, [&] { widget.setOpacity(1.0); }));
         QVERIFY(repaints(widget, [&] { widget.setOpacity(0.5); }));

@@ -6,15 +6,21 @@
 
 using namespace ZIRVOUI;
 
-class TestCommonLabelWidget : public QObject
+class TestCommonLabelWidget : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { failOnWarnings(); }
-
     void placesItsLabels()
     {
+        using Places = QList<QRect>;
+        // Of a row and a column: with all labels, without the title, and with the icon alone.
+        const Places places[][3] = {{{{82, 93, 60, 14}, {150, 85, 20, 30}, {178, 90, 40, 20}},
+                                     {{116, 85, 20, 30}, {144, 90, 40, 20}},
+                                     {{140, 85, 20, 30}}},
+                                    {{{120, 60, 60, 14}, {140, 82, 20, 30}, {130, 120, 40, 20}},
+                                     {{140, 71, 20, 30}, {130, 109, 40, 20}},
+                                     {{140, 85, 20, 30}}}};
         for (const bool isColumn : {false, true}) {
             CommonLabelWidget group(nullptr, isColumn ? Qt::Vertical : Qt::Horizontal);
             group.setIconSize({30, 24});
@@ -24,26 +30,18 @@ private Q_SLOTS:
             group.setSpacing(8);
             group.resize(300, 200);
             group.show();
-            const auto places = [&] {
+            QVERIFY(group.layout()->contentsMargins().isNull());
+            for (int hidden = 0; hidden < 3; ++hidden) {
+                group.setTitleVisible(hidden < 1);
+                group.setTextVisible(hidden < 2);
                 QCoreApplication::processEvents();
-                QList<QRect> places;
+                Places seen;
                 for (const ZClickLabel *label : group.findChildren<ZClickLabel *>()) {
                     if (label->isVisible())
-                        places << label->geometry();
+                        seen << label->geometry();
                 }
-                return places;
-            };
-            QVERIFY(group.layout()->contentsMargins().isNull());
-            using Places = QList<QRect>;
-            QCOMPARE(places(),
-                     isColumn ? Places({{120, 60, 60, 14}, {140, 82, 20, 30}, {130, 120, 40, 20}})
-                              : Places({{82, 93, 60, 14}, {150, 85, 20, 30}, {178, 90, 40, 20}}));
-            group.setTitleVisible(false);
-            QCOMPARE(places(),
-                     isColumn ? Places({{140, 71, 20, 30}, {130, 109, 40, 20}})
-                              : Places({{116, 85, 20, 30}, {144, 90, 40, 20}}));
-            group.setTextVisible(false);
-            QCOMPARE(places(), Places({{140, 85, 20, 30}}));
+                QCOMPARE(seen, places[isColumn][hidden]);
+            }
         }
     }
 

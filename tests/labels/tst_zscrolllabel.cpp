@@ -9,7 +9,7 @@ namespace {
 
 constexpr int Never = 19000; // ms, what comes later is no CoarseTimer any more
 
-const QString LongText = QStringLiteral("A text that is longer than the label");
+const QString LongText = "A text that is longer than the label";
 
 /*! A label of 16 pixel letters whose only ticks are those of the test. */
 struct Marquee : ZScrollLabel
@@ -30,8 +30,10 @@ struct Marquee : ZScrollLabel
         return QAbstractEventDispatcher::instance()->registeredTimers(this);
     }
 
-    void tick(int times = 1)
+    /*! Ticks some \a times in steps of so many pixels. */
+    void run(int step, int times = 1)
     {
+        setStep(step);
         QTimerEvent event(timers().value(0, {-1, 0, Qt::CoarseTimer}).timerId);
         for (int i = 0; i < times; ++i)
             QCoreApplication::sendEvent(this, &event);
@@ -55,13 +57,11 @@ struct Marquee : ZScrollLabel
 
 } // namespace
 
-class TestZScrollLabel : public QObject
+class TestZScrollLabel : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { failOnWarnings(); }
-
     void standsStillIfItFits()
     {
         for (const QString &text : {QString(), QString("Fi\tts"), QString("a\nb\n"),
@@ -84,20 +84,16 @@ private Q_SLOTS:
         Marquee label;
         const int width = label.textWidth();
         QCOMPARE(label.shows({0, width + 72}, 15), QString());
-        label.tick(7);
+        label.run(1, 7);
         QCOMPARE(label.shows({-7, width + 65}, 15), QString());
-        label.setStep(width - 27);
-        label.tick();
+        label.run(width - 27);
         QCOMPARE(label.shows({20 - width, 92}, 15), QString());
         label.setSpacing(31);
-        label.setStep(51);
-        label.tick();
+        label.run(51);
         QCOMPARE(label.shows({-31 - width, 0}, 15), QString());
-        label.setStep(1);
-        label.tick();
+        label.run(1);
         QCOMPARE(label.shows({0}, 15), QString());
-        label.setStep(-5);
-        label.tick(2);
+        label.run(-5, 2);
         QCOMPARE(label.shows({10}, 15), QString());
     }
 
@@ -105,23 +101,19 @@ private Q_SLOTS:
     {
         Marquee label(LongText, {60, 41});
         label.setScrollDirection(ScrollVertical);
-        label.setStep(10);
-        label.tick(); // still decided horizontally, and moved upwards
+        label.run(10); // still decided horizontally, and moved upwards
         QCOMPARE(label.shows({0}, 15.5), QString());
 
         label.upateLabelRollingState();
         const int lines = (label.textWidth() + 59) / 60;
         const int height = lines * label.fontMetrics().height();
         label.setSpacing(17);
-        label.tick(2);
+        label.run(10, 2);
         QCOMPARE(label.shows({0}, 10.5), QString());
-        label.setStep(height - 20);
-        label.tick(); // the text has left, and the copy has come half of the way
+        label.run(height - 20); // the text has left, and the copy has come half of the way
         QCOMPARE(label.shows({0}, 29), QString());
-        label.setStep(18);
-        label.tick();
+        label.run(18);
         QCOMPARE(label.shows({0}, 20.5), QString());
-
         label.resize(60, height);
         QCOMPARE(label.timers().size(), 0);
     }
@@ -153,9 +145,9 @@ private Q_SLOTS:
     void keepsItsPlaceWhileHidden()
     {
         Marquee label;
-        label.tick(9);
+        label.run(1, 9);
         label.hide();
-        label.tick(9);
+        label.run(1, 9);
         QCOMPARE(label.shows({-9}, 15), QString());
     }
 
@@ -175,15 +167,13 @@ private Q_SLOTS:
 
     void survivesAnyNumber()
     {
-        for (const int number : {INT_MIN, INT_MAX}) {
-            for (const int direction : {0, 1, 7}) {
-                Marquee label(LongText, {90, 10});
-                label.setScrollDirection(ScrollDirection(direction));
-                label.setStep(number);
-                label.setSpacing(INT_MAX);
-                label.tick(3);
-                snapshot(label, {1, 10});
-            }
+        for (const int direction : {0, 1, 7}) {
+            Marquee label(LongText, {90, 10});
+            label.setScrollDirection(ScrollDirection(direction));
+            label.setSpacing(INT_MAX);
+            label.run(INT_MIN, 3);
+            label.run(INT_MAX, 3);
+            snapshot(label, {1, 10});
         }
     }
 };

@@ -7,30 +7,26 @@ using ZIRVOUI::ZTextWidget;
 
 namespace {
 
-const QString Html = QStringLiteral("<h2>Title</h2><p>Some <b>words</b> of <i>HTML</i>, more of "
-                                    "them than fit</p><table border=1><tr><td>1<td>2</table>");
+const QString Html = "<h2>Title</h2><p>Some <b>words</b> of <i>HTML</i>, more of "
+                     "them than fit</p><table border=1><tr><td>1<td>2</table>";
 const QColor Ground(20, 40, 200, 150);
 
-QImage expected(const QSize &size)
+void drawHtml(QPainter &painter, const QRect &all)
 {
-    return reference(size, [&](QPainter &painter) {
-        painter.fillRect(QRect(QPoint(), size), Ground);
-        QTextDocument document;
-        document.setHtml(Html);
-        document.setTextWidth(size.width());
-        document.drawContents(&painter, QRectF(QPointF(), size));
-    });
+    painter.fillRect(all, Ground);
+    QTextDocument document;
+    document.setHtml(Html);
+    document.setTextWidth(all.width());
+    document.drawContents(&painter, all);
 }
 
 } // namespace
 
-class TestZTextWidget : public QObject
+class TestZTextWidget : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { failOnWarnings(); }
-
     void paints()
     {
         ZTextWidget widget;
@@ -41,14 +37,14 @@ private Q_SLOTS:
             COMPARE_PICTURES(snapshot(widget, size), blankPicture(size));
             widget.setHtml(Html);
             widget.setBackgroundColor(Ground);
-            COMPARE_PICTURES(snapshot(widget), expected(size));
+            comparePictures(widget, {size}, drawHtml);
         }
         QSignalSpy layouts(widget.textDocument()->documentLayout(),
                            &QAbstractTextDocumentLayout::update);
         snapshot(widget);
         QCOMPARE(layouts.size(), 0);
         widget.textDocument()->setPageSize({91, 20});
-        COMPARE_PICTURES(snapshot(widget), expected({91, 201}));
+        comparePictures(widget, {{91, 201}}, drawHtml);
     }
 
     void repaintsForNewHtmlAlone()
