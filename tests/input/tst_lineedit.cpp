@@ -22,13 +22,11 @@ QImage colored(const QImage &picture, const QColor &color)
 
 } // namespace
 
-class TestLineEdit : public QObject
+class TestLineEdit : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { failOnWarnings(); }
-
     void isSeenThrough()
     {
         for (const QString &style : QStyleFactory::keys()) {
