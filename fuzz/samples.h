@@ -1,0 +1,27 @@
+#ifndef SAMPLES_H
+#define SAMPLES_H
+
+#include <QByteArray>
+#include <QStringList>
+
+/*! Small files of each kind that the library reads, made in code. */
+namespace Samples {
+
+QByteArray svg();
+QByteArray png();
+/*! Two frames of 2 × 2 pixels, for ever. */
+QByteArray gif();
+QByteArray html();
+/*! A gzip container with one stored block. */
+QByteArray zipped(const QByteArray &bytes);
+
+/*! The checksum that both gzip and PNG use. */
+quint32 crc32(const QByteArray &bytes);
+
+void write(const QString &path, const QByteArray &bytes);
+/*! Paths of a sample of each kind, of damaged ones, of a directory, of nothing. */
+const QStringList &paths();
+
+} // namespace Samples
+
+#endif

@@ -1,0 +1,98 @@
+#include "stage.h"
+
+#include "virtualtime.h"
+
+#include <QApplication>
+#include <QWidget>
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+VirtualTime *currentTime = nullptr;
+QWidget *stageWindow = nullptr;
+
+int leniencies = 0;
+
+// What no call of the library could prevent.
+const char *const ExpectedWarnings[] = {
+    "This plugin does not support", // the offscreen display, of raising and hints
+    "QWidget::setWindowModified: ", // told when a window is created whose title has no place for it
+    "QWidgetLineControl::setSelection: ", // a stock line edit, of positions far away
+};
+
+bool isExpected(const QMessageLogContext &context, const QString &text)
+{
+    // What is wrong with a file is told by Qt's readers.
+    if (context.category && QByteArray(context.category).startsWith("qt.svg"))
+        return true;
+    return std::any_of(std::begin(ExpectedWarnings), std::end(ExpectedWarnings),
+                       [&](const char *begin) { return text.startsWith(QLatin1String(begin)); });
+}
+
+void endOnWarning(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (type == QtDebugMsg || type == QtInfoMsg || leniencies > 0 || isExpected(context, text))
+        return;
+    fprintf(stderr, "Qt prints: %s\n", qPrintable(text));
+    std::abort();
+}
+
+} // namespace
+
+void Stage::open()
+{
+    static int count = 1;
+    static char name[] = "fuzz";
+    static char *arguments[] = {name, nullptr};
+
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_LOGGING_RULES", "*.debug=false");
+    currentTime = new VirtualTime;
+    QCoreApplication::setEventDispatcher(currentTime);
+    new QApplication(count, arguments);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    currentTime->driveAnimations();
+
+    constexpr int Side = 100;
+    stageWindow = new QWidget;
+    stageWindow->setAttribute(Qt::WA_DontShowOnScreen);
+    stageWindow->resize(Side, Side);
+    stageWindow->show();
+    QApplication::setActiveWindow(stageWindow);
+    qInstallMessageHandler(endOnWarning);
+}
+
+QWidget *Stage::window()
+{
+    return stageWindow;
+}
+
+VirtualTime &Stage::time()
+{
+    return *currentTime;
+}
+
+Stage::Leniency::Leniency()
+{
+    ++leniencies;
+}
+
+Stage::Leniency::~Leniency()
+{
+    --leniencies;
+}
+
+void Stage::clear()
+{
+    VirtualTime::settle();
+    // A single shot lives until its time, even if whom it was for is gone.
+    for (QObject *child : currentTime->children()) {
+        if (child->inherits("QSingleShotTimer"))
+            delete child;
+    }
+    stageWindow->setEnabled(true);
+    stageWindow->show();
+    QApplication::setActiveWindow(stageWindow);
+}

@@ -1,0 +1,60 @@
+#ifndef TRIAL_H
+#define TRIAL_H
+
+#include "subject.h"
+
+#include <QPointer>
+#include <QVector>
+#include <memory>
+
+class Trial;
+
+/*! Where the code that handles a happening begins. */
+enum class Origin {
+    Pointer,
+    Event,
+    Stock //!< in a function of QWidget, which goes on after the widget's own code
+};
+
+/*! What a slot, or the application at any moment, may do to a widget. */
+struct Reaction
+{
+    const char *name;
+    void (*run)(Trial &trial, Values &values);
+    bool destroys;
+};
+
+const std::vector<Reaction> &reactions();
+
+/*! A widget under test in a home of its own, with a slot at each of its signals. */
+class Trial
+{
+public:
+    Trial(const Subject &subject, Values &values);
+    ~Trial();
+    Q_DISABLE_COPY(Trial)
+
+    const Subject &subject;
+    QPointer<QWidget> home;
+    QPointer<QWidget> widget; // null once it is deleted
+    Origin origin = Origin::Event; // of what is happening to the widget
+
+    /*! The next emission of the signal with this index, or of any with -1, meets the reaction. */
+    void arm(const Reaction &reaction, int signal, const Values &values);
+    /*!
+     * Whether a slot of the signal may delete the widget.  Stock widgets touch themselves after
+     * most of their signals; the library's buttons and its slider make up for that where it is the
+     * pointer that causes them.
+     */
+    bool mayDieIn(int signal) const;
+    /*! Whether the reaction has yet to come. */
+    bool isArmed() const;
+    /*! How often each signal was emitted, by its index in the meta-object. */
+    const QVector<int> &emissions() const;
+
+private:
+    class Spy;
+    std::unique_ptr<Spy> m_spy;
+};
+
+#endif
