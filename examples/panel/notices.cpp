@@ -13,7 +13,6 @@ namespace {
 
 constexpr QSize ToastSize(480, 152);
 constexpr int ToastIcon = 48;
-constexpr int ToastDelay = 2500; // ms
 constexpr int ToastMargin = 40; // to the bottom of the window
 
 constexpr QSize DialogSize(440, 320);
@@ -45,7 +44,6 @@ void Notices::toast(QWidget *page, ToastType type, const QString &text)
     toast->setObjectName("toast");
     toast->setIcoSize(ToastIcon, ToastIcon);
     toast->setFixedSize(ToastSize);
-    toast->setDelayMS(ToastDelay);
     auto *label = toast->findChild<ZClickLabel *>();
     label->setTextSize(Parts::TextSize);
     label->setFixedWidth(ToastSize.width()); // or it takes two lines where one would do

@@ -42,12 +42,12 @@ private:
     void addDimmer();
     void dim(int brightness);
 
+    ZIRVOUI::ZClickLabel *m_dimmer = nullptr; // first: each child that is added asks for it
     Look m_look;
     Clock m_clock;
     QStackedWidget *m_pages;
     QButtonGroup *m_tiles;
-    LockScreen *m_lockScreen = nullptr;
-    ZIRVOUI::ZClickLabel *m_dimmer = nullptr;
+    LockScreen *m_lockScreen;
 };
 
 #endif

@@ -212,6 +212,7 @@ def main(kind, scale, program, pictures):
         return travel(display, panel)
     finally:
         panel.stop()
+        panel.await_kept()
         display.stop()
         for log in "server.log", "panel.log":
             if os.path.exists(display.path(log)):

@@ -16,7 +16,7 @@ class Panel:
         self.program = program
         self.display = display
         self.pictures = pictures
-        self.number = 0
+        self.kept = []  # what writes the pictures
         self.process = None
 
     # ---- the program
@@ -109,11 +109,17 @@ class Panel:
         return Picture(path)
 
     def keep(self, name):
-        """Keeps the picture that was looked at last, as a file to be looked at by people."""
-        self.number += 1
-        path = os.path.join(self.pictures, f"{self.number:02}-{name.replace(' ', '-')}.png")
-        subprocess.run(["convert", self.display.path("screen.ppm"), "-quality", "10", path],
-                       check=True)
+        """Keeps what was looked at last for people to look at, while the journey goes on."""
+        picture = f"{len(self.kept) + 1:02}-{name.replace(' ', '-')}"
+        taken = self.display.path(picture + ".ppm")
+        os.rename(self.display.path("screen.ppm"), taken)
+        path = os.path.join(self.pictures, picture + ".png")
+        self.kept.append(subprocess.Popen(
+            ["sh", "-c", 'convert "$0" -quality 10 "$1" && rm "$0"', taken, path]))
+
+    def await_kept(self):
+        for writer in self.kept:
+            writer.wait()
 
     def await_sight(self, what, condition):
         """Looks again and again until the condition holds for what is seen, and keeps that."""
