@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int Variants = 60; // of each kind of file
+constexpr int Variants = 20; // of each kind of file
 constexpr int Deep = 20000; // elements within each other
 // HTML is trusted: Qt's layout of nested tables takes exponential time, of nested blocks square.
 constexpr int DeepHtml = 500;
