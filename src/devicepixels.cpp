@@ -8,7 +8,9 @@ namespace ZIRVOUI {
 double pixelRatio(const QPainter &painter)
 {
     // Not the painter's device, which stays the widget when that is rendered elsewhere.
-    return painter.paintEngine()->paintDevice()->devicePixelRatioF();
+    // A window for whose pixels there is no memory is painted without an engine.
+    const QPaintEngine *engine = painter.paintEngine();
+    return engine ? engine->paintDevice()->devicePixelRatioF() : 1.0;
 }
 
 bool takesWholePixels(const QPainter &painter, const QRectF &rect)

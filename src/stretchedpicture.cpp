@@ -1,3 +1,4 @@
+#include "affordable_p.h"
 #include "devicepixels_p.h"
 #include "stretchedpicture_p.h"
 
@@ -28,11 +29,12 @@ void StretchedPicture::draw(QPainter &painter, const QRectF &target, const QPixm
 {
     if (picture.isNull())
         return;
-    if (!target.isValid() || !bounds.contains(target) || !takesWholePixels(painter, target)) {
+    const double ratio = pixelRatio(painter);
+    if (!target.isValid() || !bounds.contains(target) || !takesWholePixels(painter, target)
+        || !isAffordable(target.width() * ratio, target.height() * ratio)) {
         painter.drawPixmap(target, picture, QRectF());
         return;
     }
-    const double ratio = pixelRatio(painter);
     const bool smoothly = painter.testRenderHint(QPainter::SmoothPixmapTransform);
     const auto &kept = m_scaled.of({picture.cacheKey(), target.size(), ratio, smoothly},
                                    [&] { return scaled(picture, target.size(), ratio, smoothly); });

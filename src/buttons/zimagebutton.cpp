@@ -1,5 +1,6 @@
 #include "zimagebutton.h"
 
+#include "affordable_p.h"
 #include "buttonstate_p.h"
 #include "devicepixels_p.h"
 #include "flipchecked_p.h"
@@ -10,6 +11,7 @@
 #include "widgetlength_p.h"
 #include "zsvgwidget.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QPainter>
 #include <QStyleOptionButton>
@@ -81,9 +83,10 @@ void ZImageButtonPrivate::drawBackgroundPicture(QPainter &painter, const QRectF 
         return;
     const QByteArray bytes = fileBytes(backgroundPicture);
     const QPixmap &picture = decodedBackground.of(bytes, [&] {
-        QPixmap decoded;
-        decoded.loadFromData(bytes);
-        return decoded;
+        QBuffer buffer;
+        buffer.setData(bytes);
+        QImageReader reader(&buffer);
+        return isAffordable(reader) ? QPixmap::fromImageReader(&reader) : QPixmap();
     });
     stretchedBackground.draw(painter, rect, picture, q->rect());
 }
@@ -91,6 +94,8 @@ void ZImageButtonPrivate::drawBackgroundPicture(QPainter &painter, const QRectF 
 void ZImageButtonPrivate::drawIcon(QPainter &painter, SvgFile &icon)
 {
     const double ratio = pixelRatio(painter);
+    if (q->size().isEmpty() || !isAffordable(q->width() * ratio, q->height() * ratio))
+        return;
     const QPixmap &picture = renderedIcon.of({q->size(), ratio}, [&] {
         QPixmap rendered(q->size() * ratio);
         rendered.setDevicePixelRatio(ratio);

@@ -1,5 +1,6 @@
 #include "zbasedialog.h"
 
+#include "devicepixels_p.h"
 #include "roundedoutline_p.h"
 #include "widgetlength_p.h"
 
@@ -13,6 +14,9 @@ namespace {
 
 // Beyond this a shadow is wider than any widget, and coordinates would soon leave int's range.
 constexpr int MaxShadowWidth = 1 << 29;
+
+// Beyond this a raster device has no pixels.  As many outlines that are all corner take minutes.
+constexpr int LargestDevice = 32767;
 
 CornerRadii cornerRadii(ZBaseDialog::RadiusType type, int r)
 {
@@ -135,6 +139,9 @@ void ZBaseDialog::paintEvent(QPaintEvent *event)
     if (!painter.isActive())
         return;
 
+    // With a clip of the painter's own, Qt does not ask for each pixel of a line whether it shows.
+    if (!painter.hasClipping() && takesWholePixels(painter, event->rect()))
+        painter.setClipRect(event->rect());
     drawShadow(painter, event->rect());
     drawBody(painter, event->rect());
 }
@@ -165,6 +172,8 @@ void ZBaseDialog::drawShadow(QPainter &painter, const QRect &exposed)
     // Further in than the widget is long, the outlines are mirrored and lie outside it.  Only the
     // arcs of a negative radius come back, and reach it around a quarter of that radius.
     const int reach = qMax(this->width(), height()) + 1;
+    if (reach > LargestDevice && qAbs(m_radius) > LargestDevice)
+        return;
     const int arcs = qMax(0, -(m_radius / 4) - 1);
     drawOutlines(arcs + reach, qMax(arcs, reach + 1));
     drawOutlines(reach, 0);

@@ -59,7 +59,7 @@ LoadingWidget *ZLoadingDialog::loadingWidget()
 
 void ZLoadingDialog::setSpacing(int spacing)
 {
-    m_layout->setSpacing(spacing);
+    m_layout->setSpacing(qMin(spacing, QWIDGETSIZE_MAX)); // with much more Qt never ends
 }
 
 void ZLoadingDialog::show()

@@ -9,10 +9,12 @@ namespace ZIRVOUI {
 
 ZGifWidget::ZGifWidget(const QString &path, QWidget *parent)
     : QLabel(parent)
-    , m_movie(new QMovie(path))
+    , m_movie(new QMovie)
 {
-    if (!path.isEmpty()) // which Qt warns of
+    if (!path.isEmpty() && isAffordable(QImageReader(path))) { // Qt warns of an empty name
+        m_movie->setFileName(path);
         m_movie->start();
+    }
     setMovie(m_movie.data());
 }
 

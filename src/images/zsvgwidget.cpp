@@ -1,5 +1,6 @@
 #include "zsvgwidget.h"
 
+#include "affordable_p.h"
 #include "devicepixels_p.h"
 #include "svgfile_p.h"
 
@@ -45,7 +46,7 @@ void ZSvgWidget::loadSvgImage(const QString &path)
     if (isSvgPath(path)) {
         m_svgPath = path;
     } else {
-        m_pixmap = QPixmap(path);
+        m_pixmap = affordableBitmap(path);
         m_svgPath.clear();
     }
     update();
@@ -143,6 +144,8 @@ void ZSvgWidget::paintEvent(QPaintEvent *)
 
 void ZSvgWidget::fitPixmap(double ratio)
 {
+    if (!isAffordable(width() * ratio, height() * ratio))
+        return;
     m_pixmap = m_pixmap.scaled(size() * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     m_pixmap.setDevicePixelRatio(ratio);
 }

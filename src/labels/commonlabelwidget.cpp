@@ -85,7 +85,7 @@ ZClickLabel *CommonLabelWidget::icoLabel()
 
 void CommonLabelWidget::setSpacing(int spacing)
 {
-    m_layout->setSpacing(spacing);
+    m_layout->setSpacing(qMin(spacing, QWIDGETSIZE_MAX)); // with much more Qt never ends
 }
 
 } // namespace ZIRVOUI

@@ -1,5 +1,6 @@
 #include "zclicklabel.h"
 
+#include "affordable_p.h"
 #include "laidouttext_p.h"
 #include "stretchedpicture_p.h"
 #include "svgfile_p.h"
@@ -113,7 +114,7 @@ void ZClickLabel::setBgPicturePath(const QString &path)
     if (isSvgPath(path))
         m_svgPath = path;
     else
-        setPicture(QPixmap(path));
+        setPicture(affordableBitmap(path));
     update();
 }
 
