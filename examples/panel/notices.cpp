@@ -22,8 +22,7 @@ constexpr int BlurRadius = 8;
 
 MaskWidget *newBackdrop(QWidget *window)
 {
-    QPixmap picture = window->grab();
-    picture.setDevicePixelRatio(1); // on a dense screen the blur would cover a part of it
+    const QPixmap picture = window->grab();
     auto *backdrop = new MaskWidget(window);
     backdrop->setGeometry(window->rect());
     backdrop->setDistance(0);

@@ -36,7 +36,7 @@ QImage framed(const QPixmap &picture, int distance)
     image.fill(FrameColor);
     QPainter painter(&image);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.drawPixmap(distance, distance, picture);
+    painter.drawPixmap(QRect({distance, distance}, picture.size()), picture); // of any ratio
     return image;
 }
 

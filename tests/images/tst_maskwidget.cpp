@@ -50,7 +50,9 @@ private Q_SLOTS:
                 mask.setDistance(distance);
                 mask.setBlurRadius(radius);
             }
-            mask.setPixmap(somePicture());
+            QPixmap dense = somePicture(); // of which all is shown at any ratio
+            dense.setDevicePixelRatio(1 + (radius == 3));
+            mask.setPixmap(dense);
             mask.setDistance(-1000); // for the next picture
             mask.setBlurRadius(0);
             const QPixmap picture = blurred(somePicture(), distance, radius);
