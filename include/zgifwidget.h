@@ -23,7 +23,8 @@ class ZCOMMONWIDGETS_EXPORT ZGifWidget : public QLabel
     Q_OBJECT
 
 public:
-    /*! Plays the file at \a path; an empty path plays nothing. */
+    /*! Plays the file at \a path; an empty path plays nothing, nor do 64 million pixels and more.
+     */
     explicit ZGifWidget(const QString &path, QWidget *parent = nullptr);
     ~ZGifWidget() override;
 

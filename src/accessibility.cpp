@@ -6,6 +6,7 @@
 #include "maskwidget.h"
 #include "progressbar.h"
 #include "rotateprogress.h"
+#include "truncated_p.h"
 #include "zclicklabel.h"
 #include "zslider.h"
 #include "zsvgwidget.h"
@@ -208,7 +209,7 @@ public:
     QVariant minimumStepSize() const override { return widgetOf<ZSlider>(*this)->singleStep(); }
     void setCurrentValue(const QVariant &value) override
     {
-        widgetOf<ZSlider>(*this)->setValue(value.toInt());
+        widgetOf<ZSlider>(*this)->setValue(truncated(value.toDouble()));
     }
 };
 

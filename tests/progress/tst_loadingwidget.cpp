@@ -87,7 +87,9 @@ private Q_SLOTS:
         QScreen *screen = spinner.windowHandle()->screen();
         for (int i = 0; i < 20; ++i) {
             spinner.start();
-            QTest::qWait(20);
+            QEventLoop loop; // QTest::qWait() looks at events every 10 ms only
+            QTimer::singleShot(20 + i % 7, &loop, &QEventLoop::quit);
+            loop.exec();
             spinner.stop();
             QCoreApplication::processEvents();
             const QImage seen = screen->grabWindow(spinner.winId()).toImage();
