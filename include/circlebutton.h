@@ -4,12 +4,14 @@
 #include "zcommonwidgets_export.h"
 
 #include <QPushButton>
+#include <QScopedPointer>
 #include <QTimer>
 
 class QHBoxLayout;
 
 namespace ZIRVOUI {
 
+class KeptShape;
 class ZSvgWidget;
 
 /*!
@@ -85,6 +87,7 @@ private:
     QTimer m_delayTimer;
     QTimer m_repeatTimer;
     bool m_longPressRepeat = false;
+    QScopedPointer<KeptShape> m_disc;
 };
 
 } // namespace ZIRVOUI

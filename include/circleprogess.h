@@ -4,9 +4,12 @@
 #include "zcommonwidgets_export.h"
 
 #include <QBrush>
+#include <QScopedPointer>
 #include <QWidget>
 
 namespace ZIRVOUI {
+
+class KeptShape;
 
 /*!
  * A ring that fills clockwise from 12 o'clock: a disc, a slice over it as large as the value is far
@@ -73,6 +76,8 @@ private:
     QBrush m_bgColor;
     QBrush m_circleColor;
     QBrush m_progressColor;
+    QScopedPointer<KeptShape> m_disc;
+    QScopedPointer<KeptShape> m_hole;
 };
 
 } // namespace ZIRVOUI

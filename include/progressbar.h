@@ -4,9 +4,12 @@
 #include "zcommonwidgets_export.h"
 
 #include <QBrush>
+#include <QScopedPointer>
 #include <QWidget>
 
 namespace ZIRVOUI {
+
+class KeptShape;
 
 /*!
  * A horizontal bar that is filled from the left as far as its value is on the way from the minimum
@@ -100,6 +103,8 @@ private:
     QColor m_bgColor;
     QColor m_tipColor;
     QColor m_textColor;
+    QScopedPointer<KeptShape> m_background;
+    QScopedPointer<KeptShape> m_bar;
 };
 
 } // namespace ZIRVOUI

@@ -9,7 +9,9 @@
 #include <QScopedPointer>
 
 namespace ZIRVOUI {
+class KeptShape;
 class LaidOutText;
+class StretchedPicture;
 } // namespace ZIRVOUI
 
 /*!
@@ -73,7 +75,7 @@ protected:
     void nextCheckState() override;
 
 private:
-    void drawBackground(QPainter &painter, const QPainterPath &outline);
+    void drawBackground(QPainter &painter);
     void drawBorder(QPainter &painter);
 
     int m_radius = 0;
@@ -81,6 +83,9 @@ private:
     int m_borderWidth = 0;
     QColor m_borderColor;
     bool m_movedOut = false;
+    QScopedPointer<ZIRVOUI::KeptShape> m_background;
+    QScopedPointer<ZIRVOUI::KeptShape> m_border;
+    QScopedPointer<ZIRVOUI::StretchedPicture> m_stretchedImage;
     QScopedPointer<ZIRVOUI::LaidOutText> m_laidOutText;
 };
 

@@ -3,9 +3,12 @@
 
 #include "zcommonwidgets_export.h"
 
+#include <QScopedPointer>
 #include <QScrollBar>
 
 namespace ZIRVOUI {
+
+class KeptShape;
 
 /*!
  * A scroll bar that works as a stock one and is placed by the style, and draws itself: a rounded
@@ -46,6 +49,8 @@ private:
     bool m_hovered = false; // at the last move without a press
     bool m_pressed = false;
     bool m_onHandle = false; // at the last press, release or move without a press
+    QScopedPointer<KeptShape> m_track;
+    QScopedPointer<KeptShape> m_handle;
 };
 
 } // namespace ZIRVOUI

@@ -1,6 +1,7 @@
 #include "circlebutton.h"
 
 #include "buttonstate_p.h"
+#include "keptshape_p.h"
 #include "widgetlength_p.h"
 #include "widgetlook_p.h"
 #include "zsvgwidget.h"
@@ -23,6 +24,7 @@ CircleButton::CircleButton(const QString &path, QWidget *parent)
     : QPushButton(parent)
     , m_layout(new QHBoxLayout(this))
     , m_icon(new ZSvgWidget(path, this))
+    , m_disc(new KeptShape)
 {
     setFocusPolicy(Qt::ClickFocus);
     setCheckable(false);
@@ -144,7 +146,8 @@ void CircleButton::drawEllipse(QPainter &painter)
     const double width = m_borderWidth;
     painter.setPen({m_borderColor, width, Qt::SolidLine, Qt::FlatCap, Qt::BevelJoin});
     painter.setBrush(stateColor(m_backgroundColor, option.state, DownLightness));
-    painter.drawEllipse(QRectF(width / 2, width / 2, this->width() - width, height() - width));
+    const QRectF disc(width / 2, width / 2, this->width() - width, height() - width);
+    m_disc->drawEllipse(painter, disc);
 }
 
 } // namespace ZIRVOUI

@@ -2,8 +2,10 @@
 
 #include "buttonstate_p.h"
 #include "flipchecked_p.h"
+#include "keptshape_p.h"
 #include "laidouttext_p.h"
 #include "roundedoutline_p.h"
+#include "stretchedpicture_p.h"
 #include "widgetlook_p.h"
 
 #include <QMouseEvent>
@@ -15,10 +17,28 @@ namespace {
 
 constexpr int DownLightness = 130; // percent
 
+void drawOutline(QPainter &painter, const QRectF &rect, double radius)
+{
+    const int corner = int(radius);
+    painter.drawPath(ZIRVOUI::roundedOutline(rect.toRect(), {corner, corner, corner, corner}));
+}
+
+// Its edges are twice as soft as those of the outline alone.
+void drawClippedOutline(QPainter &painter, const QRectF &rect, double radius)
+{
+    const int corner = int(radius);
+    painter.setClipPath(ZIRVOUI::roundedOutline(rect.toRect(), {corner, corner, corner, corner}));
+    drawOutline(painter, rect, radius);
+    painter.setClipping(false);
+}
+
 } // namespace
 
 RoundedButton::RoundedButton(QWidget *parent)
     : QPushButton(parent)
+    , m_background(new ZIRVOUI::KeptShape)
+    , m_border(new ZIRVOUI::KeptShape)
+    , m_stretchedImage(new ZIRVOUI::StretchedPicture)
     , m_laidOutText(new ZIRVOUI::LaidOutText)
 {
     setBackgroundColor(QBrush(Qt::transparent));
@@ -121,27 +141,24 @@ void RoundedButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    const QPainterPath outline = getDrawPath(rect());
-
-    painter.setClipPath(outline);
-    drawBackground(painter, outline);
+    if (m_backgroundImage.isNull())
+        drawBackground(painter);
+    painter.setClipPath(getDrawPath(rect()));
+    m_stretchedImage->draw(painter, rect(), m_backgroundImage, rect());
     if (m_borderWidth > 0)
         drawBorder(painter);
     painter.setPen(palette().color(QPalette::WindowText));
     m_laidOutText->draw(painter, rect(), Qt::AlignCenter, text());
 }
 
-void RoundedButton::drawBackground(QPainter &painter, const QPainterPath &outline)
+void RoundedButton::drawBackground(QPainter &painter)
 {
-    if (!m_backgroundImage.isNull()) {
-        painter.drawPixmap(QRectF(rect()), m_backgroundImage, QRectF());
-        return;
-    }
-
     QStyleOptionButton option;
     initStyleOption(&option);
     const QColor color = palette().color(QPalette::Window);
-    painter.fillPath(outline, ZIRVOUI::stateColor(color, option.state, DownLightness));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ZIRVOUI::stateColor(color, option.state, DownLightness));
+    m_background->draw(painter, drawClippedOutline, rect(), m_radius);
 }
 
 void RoundedButton::drawBorder(QPainter &painter)
@@ -149,7 +166,9 @@ void RoundedButton::drawBorder(QPainter &painter)
     const int inset = m_borderWidth / 2;
     const QPen pen(m_borderColor, m_borderWidth, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin);
 
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
     painter.setClipping(false);
-    painter.strokePath(getDrawPath(rect().adjusted(inset, inset, -inset, -inset)), pen);
+    m_border->draw(painter, drawOutline, rect().adjusted(inset, inset, -inset, -inset), m_radius);
     painter.setClipping(true);
 }

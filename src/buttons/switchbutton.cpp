@@ -1,6 +1,7 @@
 #include "switchbutton.h"
 
 #include "flipchecked_p.h"
+#include "keptshape_p.h"
 #include "laidouttext_p.h"
 
 #include <QPainter>
@@ -51,6 +52,8 @@ public:
 
     const QFont captionFont = newCaptionFont();
     LaidOutText laidOutCaption;
+    KeptShape track;
+    KeptShape knob;
 };
 
 namespace {
@@ -70,17 +73,11 @@ QRectF knobRect(const SwitchButtonPrivate &d, const QSize &size)
     return {d.offset + d.margin, middle - diameter / 2, diameter, diameter};
 }
 
-void drawTrack(QPainter &painter, const QSize &size, const QColor &color)
+void drawTrack(QPainter &painter, const QSize &size, const QColor &color, KeptShape &track)
 {
     const int radius = size.height() / 2;
     painter.setBrush(color);
-    painter.drawRoundedRect(QRectF(QPointF(), size), radius, radius);
-}
-
-void drawKnob(QPainter &painter, const QRectF &knob, const QColor &color)
-{
-    painter.setBrush(color);
-    painter.drawEllipse(knob);
+    track.drawRoundedRect(painter, QRectF(QPointF(), size), radius);
 }
 
 void drawDash(QPainter &painter, const QPointF &center, double length)
@@ -279,10 +276,11 @@ void SwitchButton::paintEvent(QPaintEvent *)
     painter.setOpacity(isEnabled() ? 1.0 : DisabledOpacity);
 
     const bool off = d->checkState == Qt::Unchecked;
-    drawTrack(painter, size(), off ? d->uncheckedBackground : d->checkedBackground);
+    drawTrack(painter, size(), off ? d->uncheckedBackground : d->checkedBackground, d->track);
     const QRectF knob = knobRect(*d, size());
     if (qIsFinite(knob.width())) {
-        drawKnob(painter, knob, d->knobColor);
+        painter.setBrush(d->knobColor);
+        d->knob.drawEllipse(painter, knob);
         if (d->checkState == Qt::PartiallyChecked)
             drawDash(painter, knob.center(), d->dashLength);
     }

@@ -3,6 +3,7 @@
 #include "buttonstate_p.h"
 #include "devicepixels_p.h"
 #include "flipchecked_p.h"
+#include "keptshape_p.h"
 #include "laidouttext_p.h"
 #include "widgetlook_p.h"
 
@@ -19,6 +20,7 @@ struct ZButtonPrivate
     QColor backgroundColor = QColor(49, 106, 255);
     QColor fontColor = Qt::white;
     int radius = 10; // pixels
+    KeptShape background;
     LaidOutText laidOutText;
 };
 
@@ -27,11 +29,11 @@ namespace {
 constexpr int DragDistance = 20; // pixels up or down that are still a tap
 constexpr int TextRaise = 16; // parts of the height
 
-void drawBackground(QPainter &painter, const QRectF &rect, const ZButtonPrivate &d)
+void drawBackground(QPainter &painter, const QRectF &rect, ZButtonPrivate &d)
 {
     painter.setPen(Qt::NoPen);
     painter.setBrush(d.backgroundColor);
-    painter.drawRoundedRect(rect, d.radius, d.radius);
+    d.background.drawRoundedRect(painter, rect, d.radius);
 }
 
 void drawIcon(QPainter &painter, const QRect &rect, const QIcon &icon)

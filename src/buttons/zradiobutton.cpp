@@ -1,6 +1,7 @@
 #include "zradiobutton.h"
 
 #include "flipchecked_p.h"
+#include "keptshape_p.h"
 #include "laidouttext_p.h"
 
 #include <QPainter>
@@ -17,6 +18,8 @@ struct ZRadioButtonPrivate
     QColor internalCircleFillColor = QColor(151, 151, 151);
     QColor textColor = Qt::white;
     LaidOutText laidOutText;
+    KeptShape circle;
+    KeptShape dot;
 };
 
 namespace {
@@ -29,22 +32,22 @@ QRectF circleAround(double center, double radius)
     return {center - radius, center - radius, 2 * radius, 2 * radius};
 }
 
-void drawCircle(QPainter &painter, int center, const ZRadioButtonPrivate &d)
+void drawCircle(QPainter &painter, int center, ZRadioButtonPrivate &d)
 {
     painter.setPen({d.externalCircleLineColor, double(d.thickness), Qt::SolidLine, Qt::SquareCap,
                     Qt::BevelJoin});
     painter.setBrush(d.externalCircleFillColor);
-    painter.drawEllipse(circleAround(center, double(center) - d.thickness));
+    d.circle.drawEllipse(painter, circleAround(center, double(center) - d.thickness));
 }
 
-void drawDot(QPainter &painter, int center, const ZRadioButtonPrivate &d)
+void drawDot(QPainter &painter, int center, ZRadioButtonPrivate &d)
 {
     const double radius = center - DotGap * center - d.thickness;
     if (radius <= 0)
         return;
     painter.setPen(Qt::NoPen);
     painter.setBrush(d.internalCircleFillColor);
-    painter.drawEllipse(circleAround(center, radius));
+    d.dot.drawEllipse(painter, circleAround(center, radius));
 }
 
 void drawLabel(QPainter &painter, const QSize &size, const QString &text, ZRadioButtonPrivate &d)

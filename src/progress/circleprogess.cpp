@@ -1,6 +1,7 @@
 #include "circleprogess.h"
 
 #include "announcement_p.h"
+#include "keptshape_p.h"
 #include "truncated_p.h"
 
 #include <QPainter>
@@ -13,10 +14,10 @@ constexpr double FullCircle = 360.0; // degrees
 constexpr double Noon = 90.0; // degrees from 3 o'clock, where Qt counts from
 constexpr double AngleUnits = 16.0; // of QPainter in a degree
 
-void drawDisc(QPainter &painter, const QRectF &square, const QBrush &brush)
+void drawDisc(QPainter &painter, const QRectF &square, const QBrush &brush, KeptShape &disc)
 {
     painter.setBrush(brush);
-    painter.drawEllipse(square);
+    disc.drawEllipse(painter, square);
 }
 
 void drawSlice(QPainter &painter, const QRectF &square, double startAngle, int span,
@@ -31,6 +32,8 @@ void drawSlice(QPainter &painter, const QRectF &square, double startAngle, int s
 
 CircleProgess::CircleProgess(QWidget *parent)
     : QWidget(parent)
+    , m_disc(new KeptShape)
+    , m_hole(new KeptShape)
 {
 }
 
@@ -138,11 +141,12 @@ void CircleProgess::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
 
-    drawDisc(painter, outer, m_circleColor);
+    drawDisc(painter, outer, m_circleColor, *m_disc);
     if (m_max != m_min)
         drawSlice(painter, outer, m_startAngle, spanAngle(), m_progressColor);
     if (hole > 0)
-        drawDisc(painter, {double(m_borderWidth), double(m_borderWidth), hole, hole}, m_bgColor);
+        drawDisc(painter, {double(m_borderWidth), double(m_borderWidth), hole, hole}, m_bgColor,
+                 *m_hole);
 }
 
 int CircleProgess::spanAngle() const

@@ -1,6 +1,7 @@
 #include "progressbar.h"
 
 #include "announcement_p.h"
+#include "keptshape_p.h"
 #include "truncated_p.h"
 
 #include <QPainter>
@@ -9,16 +10,18 @@ namespace ZIRVOUI {
 
 namespace {
 
-void drawBar(QPainter &painter, const QSizeF &size, int radius, const QBrush &brush)
+void drawBar(QPainter &painter, const QSizeF &size, int radius, const QBrush &brush, KeptShape &bar)
 {
     painter.setBrush(brush);
-    painter.drawRoundedRect(QRectF(QPointF(), size), radius, radius);
+    bar.drawRoundedRect(painter, QRectF(QPointF(), size), radius);
 }
 
 } // namespace
 
 ProgressBar::ProgressBar(QWidget *parent)
     : QWidget(parent)
+    , m_background(new KeptShape)
+    , m_bar(new KeptShape)
 {
     setBgColor(Qt::darkGray);
     setPadding(0);
@@ -176,9 +179,9 @@ void ProgressBar::paintEvent(QPaintEvent *)
     painter.setPen(Qt::NoPen);
 
     const bool hasBrush = m_valueBrush != QBrush(Qt::NoBrush);
-    drawBar(painter, size(), m_radius, m_bgColor);
+    drawBar(painter, size(), m_radius, m_bgColor, *m_background);
     drawBar(painter, QSizeF(fillLength(), height()), m_radius,
-            hasBrush ? m_valueBrush : QBrush(m_valueColor));
+            hasBrush ? m_valueBrush : QBrush(m_valueColor), *m_bar);
 }
 
 int ProgressBar::fillLength() const

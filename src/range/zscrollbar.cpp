@@ -1,6 +1,7 @@
 #include "zscrollbar.h"
 
 #include "devicepixels_p.h"
+#include "keptshape_p.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -33,27 +34,30 @@ bool isBetweenCorners(const QRect &handle, const QRect &track)
         || (handle.left() >= middle.left() && handle.right() <= middle.right());
 }
 
-void drawTrack(QPainter &painter, const QRect &track, const QColor &color)
+void drawTrack(QPainter &painter, const QRect &track, const QColor &color, KeptShape &shape)
 {
     if (color.alpha() == 0)
         return;
     painter.setBrush(color);
     if (qMin(track.width(), track.height()) > 1 && takesWholePixels(painter, track)) {
-        painter.drawRoundedRect(track, TrackRadius, TrackRadius);
+        shape.drawRoundedRect(painter, track, TrackRadius);
     } else { // a single pixel and parts of pixels are clipped otherwise than drawn
         clipToTrack(painter, track);
         painter.drawRect(track);
     }
 }
 
-void drawHandle(QPainter &painter, const QRect &handle, const QRect &track, const QColor &color)
+void drawHandle(QPainter &painter, const QRect &handle, const QRect &track, const QColor &color,
+                KeptShape &shape)
 {
-    if (handle.isValid() && isBetweenCorners(handle, track) && takesWholePixels(painter, track))
-        painter.setClipRect(track); // which costs less
-    else
-        clipToTrack(painter, track);
     painter.setBrush(color);
-    painter.drawRoundedRect(handle, HandleRadius, HandleRadius);
+    if (handle.isValid() && isBetweenCorners(handle, track) && takesWholePixels(painter, track)) {
+        painter.setClipRect(track); // which costs less
+        shape.drawRoundedRect(painter, handle, HandleRadius);
+    } else {
+        clipToTrack(painter, track);
+        painter.drawRoundedRect(handle, HandleRadius, HandleRadius);
+    }
 }
 
 } // namespace
@@ -65,6 +69,8 @@ ZScrollBar::ZScrollBar(QWidget *parent)
 
 ZScrollBar::ZScrollBar(Qt::Orientation orientation, QWidget *parent)
     : QScrollBar(orientation, parent)
+    , m_track(new KeptShape)
+    , m_handle(new KeptShape)
 {
     setMouseTracking(true);
 }
@@ -111,8 +117,8 @@ void ZScrollBar::paintEvent(QPaintEvent *)
     if (track.isEmpty())
         return;
     painter.setPen(Qt::NoPen);
-    drawTrack(painter, track, m_backgroundColor);
-    drawHandle(painter, handleRect(), track, handleColor());
+    drawTrack(painter, track, m_backgroundColor, *m_track);
+    drawHandle(painter, handleRect(), track, handleColor(), *m_handle);
 }
 
 void ZScrollBar::mousePressEvent(QMouseEvent *event)

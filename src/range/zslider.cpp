@@ -1,5 +1,6 @@
 #include "zslider.h"
 
+#include "keptshape_p.h"
 #include "truncated_p.h"
 
 #include <QMouseEvent>
@@ -18,6 +19,8 @@ struct ZSliderPrivate
     QColor handleNormalColor = Qt::white;
     QColor handlePressColor = QColor(15, 112, 226);
     double handlePosition = 0; // of its left edge, pixels
+    KeptShape slippedGroove;
+    KeptShape handle;
 };
 
 namespace {
@@ -175,7 +178,8 @@ void ZSlider::paintGroove()
     painter.setBrush(d->grooveGradient);
     painter.drawRoundedRect(grooveRect(size(), d->grooveThickness, width() - 2), radius, radius);
     painter.setBrush(d->grooveSlippedColor);
-    painter.drawRoundedRect(grooveRect(size(), d->grooveThickness, slipped), radius, radius);
+    d->slippedGroove.drawRoundedRect(painter, grooveRect(size(), d->grooveThickness, slipped),
+                                     radius);
 }
 
 void ZSlider::paintHanle()
@@ -188,7 +192,7 @@ void ZSlider::paintHanle()
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(isEnabled() ? color : QColor(DisabledHandleColor));
-    painter.drawEllipse(QRect(truncated(d->handlePosition), 0, height(), height()));
+    d->handle.drawEllipse(painter, QRect(truncated(d->handlePosition), 0, height(), height()));
 }
 
 void ZSlider::mousePressEvent(QMouseEvent *event)
