@@ -95,11 +95,6 @@ void roundedRect(QPainter &painter, const QRectF &rect, double radius)
 
 void KeptShape::draw(QPainter &painter, Shape shape, const QRectF &rect, double radius)
 {
-    // Otherwise Qt draws pen and brush at once.
-    if (!painter.testRenderHint(QPainter::Antialiasing)) {
-        shape(painter, rect, radius);
-        return;
-    }
     const QPen pen = painter.pen();
     const QBrush brush = painter.brush();
     if (isVisible(brush)) {

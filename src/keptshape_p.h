@@ -10,8 +10,9 @@
 namespace ZIRVOUI {
 
 /*!
- * Draws a shape with the painter's pen and brush as QPainter does, to the pixel. What is drawn the
- * same way a second time, if elsewhere, is kept as pixels, which take a tenth of the work.
+ * Draws a shape as QPainter does with its pen, its brush and antialiasing, to the pixel. What is
+ * drawn the same way a second time, if elsewhere, is kept as pixels, which take a tenth of the
+ * work.
  */
 class KeptShape
 {

@@ -1,6 +1,7 @@
 #include "buttontest.h"
 
 #include <QPainterPath>
+#include <QPicture>
 #include <roundedbutton.h>
 
 static QPainterPath outline(const QRectF &rect, double r)
@@ -58,6 +59,23 @@ private Q_SLOTS:
                 compareStates(button, {{100, 40}, {77, 51}}, draw);
             }
         }
+    }
+
+    void printsItsShapeAsOne()
+    {
+        RoundedButton button;
+        button.setRadius(9);
+        button.setBackgroundColor(Qt::red);
+        button.resize(40, 20);
+        const auto printed = [&] {
+            QPicture print;
+            button.render(&print, {}, {}, QWidget::DrawChildren);
+            const auto magnified = [&](QPainter &p) { p.scale(8, 8), p.drawPicture(0, 0, print); };
+            return reference({320, 160}, magnified);
+        };
+        const QImage first = printed();
+        printed();
+        COMPARE_PICTURES(printed(), first);
     }
 
     void clicksUnlessTheFingerLeavesIt()
