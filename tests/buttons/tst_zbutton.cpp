@@ -25,8 +25,8 @@ private Q_SLOTS:
             const int radius = look == 0 ? 10 : 3;
             const QIcon icon(look == 2 ? spottedPixmap().scaled(210, 150) : QPixmap());
             button.setIcon(icon);
-            compareStates(button, {{120, 63}, {61, 15}}, [&](QPainter &painter, const QRect &all) {
-                const int ratio = painter.device()->devicePixelRatio();
+            compareStates(button, {{120, 331}, {61, 15}}, [&](QPainter &painter, const QRect &all) {
+                const double ratio = painter.device()->devicePixelRatioF();
                 painter.setOpacity(button.isDown() ? 0.6 : button.isEnabled() ? 1.0 : 0.3);
                 painter.setBrush(QColor(look == 0 ? "#316AFF" : "red"));
                 if (icon.isNull())

@@ -50,7 +50,7 @@ private Q_SLOTS:
                     painter.setRenderHint(QPainter::Antialiasing, false);
                     painter.drawImage(
                         QRectF(40, 3, 31, 17),
-                        reference(all.size(), icon, painter.device()->devicePixelRatio()));
+                        reference(all.size(), icon, painter.device()->devicePixelRatioF()));
                     painter.setPen(Qt::blue);
                     painter.drawText(QRect(5, 20, 60, 15), Qt::AlignCenter, button.text());
                 };
@@ -83,7 +83,7 @@ private Q_SLOTS:
         QVERIFY(button.loadIcoImage(svg.path()));
         const QRectF all(button.rect());
         const auto icon = [&](QPainter &p) { QSvgRenderer(svg.path()).render(&p, all); };
-        for (int ratio : {1, 2, 1})
+        for (double ratio : {1.0, 2.0, 1.0})
             COMPARE_PICTURES(snapshot(button, ratio), reference({20, 10}, icon, ratio));
 
         QVERIFY(!button.loadIcoImage("missing.svg"));

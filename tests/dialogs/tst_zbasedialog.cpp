@@ -49,6 +49,7 @@ private Q_SLOTS:
         QTest::newRow("negative shadow") << Look{9, 20, -3};
         QTest::newRow("overlapping corners") << Look{9, 90, 8};
         QTest::newRow("round as can be") << Look{9, 60, 15};
+        QTest::newRow("rounder than any device") << Look{9, 40000, 8};
         QTest::newRow("mirrored outlines") << Look{9, 10, 70};
         QTest::newRow("negative radius") << Look{9, -6, 8};
         QTest::newRow("shadow wider than the dialog") << Look{9, 20, 400};
@@ -86,6 +87,7 @@ private Q_SLOTS:
                 painter.fillPath(at(look.shadow), QColor(60, 60, 68, 120));
             };
             COMPARE_PICTURES(snapshot(dialog, size), reference(size, draw));
+            COMPARE_PICTURES(snapshot(dialog, 1.5), reference(size, draw, 1.5));
 
             QImage parts = blankPicture(size);
             for (int i = 0; i < 12 * 9; ++i) {

@@ -43,7 +43,7 @@ class TestMaskWidget : public WidgetTest
 private Q_SLOTS:
     void paints()
     {
-        const QPair<int, double> blurs[] = {{100, 60}, {0, 3}, {7, 0}, {-9, 12.5}};
+        const QPair<int, double> blurs[] = {{100, 60}, {0, 3}, {7, 0}, {-19, 25.5}};
         for (const auto &[distance, radius] : blurs) {
             MaskWidget mask;
             if (radius != 60) {
@@ -76,6 +76,24 @@ private Q_SLOTS:
             mask.setBlurRadius(radius);
             mask.setPixmap(somePicture());
             COMPARE_PICTURES(snapshot(mask, {60, 41}), somePicture().toImage());
+        }
+    }
+
+    void isDrawnTurnedAndMagnified()
+    {
+        MaskWidget mask;
+        mask.setDistance(0);
+        mask.setBlurRadius(0);
+        mask.setPixmap(somePicture());
+        mask.resize(33, 31);
+        for (const QTransform &way : {QTransform::fromScale(2, 1), QTransform::fromScale(1, 2),
+                                      QTransform(0, 1, 1, 0, 0, 0)}) {
+            const auto turned = [&](auto draw) {
+                return reference({90, 90}, [&](auto &p) { p.setTransform(way), draw(p); });
+            };
+            COMPARE_PICTURES(
+                turned([&](auto &p) { mask.render(&p, {}, {}, QWidget::DrawChildren); }),
+                turned([&](auto &p) { p.drawPixmap(mask.rect(), somePicture()); }));
         }
     }
 

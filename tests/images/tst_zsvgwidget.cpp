@@ -46,7 +46,7 @@ private Q_SLOTS:
             comparePictures(widget, {{60, 40}, {33, 25}}, [&](QPainter &painter, const QRect &all) {
                 const QPoint center(all.width() / 2, all.height() / 2);
                 // The widget scales its bitmap in place: the small one is made from the large one.
-                const int ratio = painter.device()->devicePixelRatio();
+                const double ratio = painter.device()->devicePixelRatioF();
                 bitmap = bitmap.scaled(all.size() * ratio, {}, Qt::SmoothTransformation);
                 bitmap.setDevicePixelRatio(ratio);
                 painter.setRenderHint(QPainter::Antialiasing, false);

@@ -105,6 +105,7 @@ private Q_SLOTS:
                 label.setText(text);
                 comparePictures(
                     label, {{120, 90}, {61, 141}}, [&](auto &painter, const QRect &all) {
+                        painter.setRenderHint(QPainter::Antialiasing, false);
                         painter.fillRect(all, ground);
                         QTextDocument document;
                         document.setHtml(text);

@@ -13,6 +13,7 @@ const QColor Ground(20, 40, 200, 150);
 
 void drawHtml(QPainter &painter, const QRect &all)
 {
+    painter.setRenderHint(QPainter::Antialiasing, false);
     painter.fillRect(all, Ground);
     QTextDocument document;
     document.setHtml(Html);

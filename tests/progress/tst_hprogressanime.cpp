@@ -21,6 +21,7 @@ private Q_SLOTS:
             for (auto *animation : strip.findChildren<QVariantAnimation *>())
                 animation->setCurrentTime(time);
             comparePictures(strip, {{1300, 9}, {201, 9}}, [&](auto &painter, const QRect &all) {
+                painter.setRenderHint(QPainter::Antialiasing, false);
                 painter.fillRect(all, QColor("#3A3A3A"));
                 painter.fillRect(left, 0, width, 9, Qt::white);
             });

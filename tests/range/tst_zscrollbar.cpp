@@ -22,9 +22,9 @@ struct Bar : ZScrollBar
     }
 };
 
-QImage expected(const Bar &bar, const QColor &track, const QColor &handle)
+QImage expected(const Bar &bar, const QColor &track, const QColor &handle, double ratio = 1)
 {
-    return reference(bar.size(), [&](QPainter &painter) {
+    const auto draw = [&](QPainter &painter) {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.fillRect(bar.rect(), bar.palette().window());
         if (qMin(bar.width(), bar.height()) < 5)
@@ -37,7 +37,8 @@ QImage expected(const Bar &bar, const QColor &track, const QColor &handle)
         painter.setPen(Qt::NoPen);
         painter.setBrush(handle);
         painter.drawRoundedRect(QRectF(bar.handle()), 8, 8);
-    });
+    };
+    return reference(bar.size(), draw, ratio);
 }
 
 // The values that a bar takes when its handle is dragged, and its track tapped.
@@ -122,7 +123,10 @@ private Q_SLOTS:
         for (int width = 1; width < 8; ++width)
             for (const int height : {1, 3, 4, 5, 60}) {
                 bar.resize(width, height);
-                COMPARE_PICTURES(snapshot(bar), expected(bar, Qt::green, Qt::red));
+                bar.setValue(height);
+                for (const double ratio : {1.0, 1.5})
+                    COMPARE_PICTURES(snapshot(bar, ratio),
+                                     expected(bar, Qt::green, Qt::red, ratio));
             }
     }
 

@@ -18,7 +18,7 @@ int distance(QRgb a, QRgb b)
 
 } // namespace
 
-QImage blankPicture(const QSize &size, int ratio)
+QImage blankPicture(const QSize &size, double ratio)
 {
     QImage picture(size * ratio, QImage::Format_ARGB32_Premultiplied);
     picture.setDevicePixelRatio(ratio);
@@ -30,11 +30,11 @@ QImage blankPicture(const QSize &size, int ratio)
     return picture;
 }
 
-QImage snapshot(QWidget &widget, int ratio)
+QImage snapshot(QWidget &widget, double ratio)
 {
-    QImage picture = blankPicture(widget.size(), ratio);
-    widget.render(&picture, QPoint(), QRegion(), QWidget::DrawChildren);
-    return picture;
+    return reference(
+        widget.size(),
+        [&](QPainter &painter) { widget.render(&painter, {}, {}, QWidget::DrawChildren); }, ratio);
 }
 
 QImage snapshot(QWidget &widget, const QSize &size)

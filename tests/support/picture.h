@@ -1,6 +1,7 @@
 #ifndef PICTURE_H
 #define PICTURE_H
 
+#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QString>
@@ -8,20 +9,21 @@
 #include <QWidget>
 
 /*! A transparent picture of \a size at a device pixel ratio. */
-QImage blankPicture(const QSize &size, int ratio = 1);
+QImage blankPicture(const QSize &size, double ratio = 1);
 
 /*! What \a widget draws, alone and on transparent ground. */
-QImage snapshot(QWidget &widget, int ratio = 1);
+QImage snapshot(QWidget &widget, double ratio = 1);
 
 /*! The same of the widget at another \a size. */
 QImage snapshot(QWidget &widget, const QSize &size);
 
 /*! A picture that \a draw makes with a painter. */
 template <typename Draw>
-QImage reference(const QSize &size, Draw draw, int ratio = 1)
+QImage reference(const QSize &size, Draw draw, double ratio = 1)
 {
     QImage picture = blankPicture(size, ratio);
     QPainter painter(&picture);
+    painter.setLayoutDirection(QGuiApplication::layoutDirection()); // as on a screen
     draw(painter);
     return picture;
 }
@@ -37,7 +39,7 @@ QString difference(const QImage &actual, const QImage &expected);
 
 /*!
  * Compares what \a widget draws with what \a draw(painter, rect) does, at each of \a sizes and at
- * both pixel ratios. The painter is smooth, and has the font of the widget but no pen.
+ * whole and broken pixel ratios. The painter is smooth, and has the font of the widget but no pen.
  */
 template <typename Draw>
 void comparePictures(QWidget &widget, std::initializer_list<QSize> sizes, Draw draw)
@@ -45,7 +47,8 @@ void comparePictures(QWidget &widget, std::initializer_list<QSize> sizes, Draw d
     for (const QSize size : sizes) {
         const QRect all(QPoint(), size);
         widget.setFixedSize(size);
-        for (const int ratio : {1, 1, 2, 2}) { // the second of each may come from kept pixels
+        // The second of the same may come from kept pixels.
+        for (const double ratio : {1.0, 1.0, 1.5, 2.0, 2.0}) {
             const auto prepareAndDraw = [&](QPainter &painter) {
                 painter.setRenderHint(QPainter::Antialiasing);
                 painter.setFont(widget.font());
