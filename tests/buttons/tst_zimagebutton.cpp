@@ -29,10 +29,10 @@ private Q_SLOTS:
             button.setBgColor(QColor(90, 200, 30, 150));
             button.setBorderWidth(2);
             button.setRadius(9);
-            button.setTextRect({5, 20, 60, 15});
+            button.setTextRect({5, 20, 30, 15}); // as the text is longer
             button.setIcoRect({40, 3, 31, 17});
         }));
-        for (const int border : {0, 5}) {
+        for (const int border : {0, 5, 60}) { // the last leaves no ground
             const int inset = border / 2;
             for (const QString &path : {QString(), bitmap.path()}) {
                 button.setBorderWidth(border);
@@ -52,7 +52,7 @@ private Q_SLOTS:
                         QRectF(40, 3, 31, 17),
                         reference(all.size(), icon, painter.device()->devicePixelRatioF()));
                     painter.setPen(Qt::blue);
-                    painter.drawText(QRect(5, 20, 60, 15), Qt::AlignCenter, button.text());
+                    painter.drawText(QRect(5, 20, 30, 15), Qt::AlignCenter, button.text());
                 };
                 compareStates(button, {{100, 40}, {77, 51}}, draw);
             }
@@ -70,6 +70,8 @@ private Q_SLOTS:
         QCOMPARE(shown(), QColor('a', 'b', 'c'));
         file.write("P6 1 1 255 xyz");
         QCOMPARE(shown(), QColor('x', 'y', 'z'));
+        file.writeHugePicture();
+        QCOMPARE(shown(), QColor(Qt::white));
     }
 
     void drawsItsIconSharp()
@@ -86,6 +88,12 @@ private Q_SLOTS:
         for (double ratio : {1.0, 2.0, 1.0})
             COMPARE_PICTURES(snapshot(button, ratio), reference({20, 10}, icon, ratio));
 
+        QImage part = blankPicture({20, 10});
+        button.resize(9000, 9000); // too many pixels for an icon
+        button.render(&part, {}, {}, QWidget::DrawChildren);
+        COMPARE_PICTURES(part, blankPicture({20, 10}));
+        button.resize(20, 10);
+
         QVERIFY(!button.loadIcoImage("missing.svg"));
         COMPARE_PICTURES(snapshot(button), blankPicture({20, 10}));
     }
@@ -98,6 +106,8 @@ private Q_SLOTS:
         auto *sign = button.findChild<ZSvgWidget *>();
         snapshot(button, QSize(100, 60));
         QCOMPARE(sign->geometry(), QRect(80, 0, 20, 10));
+        snapshot(button, QSize(15, 7));
+        QCOMPARE(sign->geometry(), QRect(0, 0, 15, 7));
 
         for (const bool shown : {true, false, true}) {
             button.click();

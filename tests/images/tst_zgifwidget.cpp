@@ -41,9 +41,11 @@ private Q_SLOTS:
 
     void showsNothingOfABadFile()
     {
-        const SampleFile broken("broken.gif");
+        const SampleFile broken("broken.gif"), huge("huge.png");
         broken.write("GIF89a");
-        for (const QString &path : {broken.path(), QString("missing.gif"), QString()}) {
+        huge.writeHugePicture();
+        for (const QString &path :
+             {broken.path(), huge.path(), QString("missing.gif"), QString()}) {
             ZGifWidget widget(path);
             widget.setSize(20, 20);
             COMPARE_PICTURES(snapshot(widget, {9, 9}), blankPicture({9, 9}));

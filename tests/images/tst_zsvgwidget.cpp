@@ -78,6 +78,11 @@ private Q_SLOTS:
         QCOMPARE(widget.sizeHint(), QSize(2, 1));
         const QImage blurred = snapshot(widget, {40, 20});
         QCOMPARE(blurred.pixel(1, 1), blurred.pixel(2, 2));
+
+        QImage part = blankPicture({9, 9}, 2);
+        widget.setFixedSize(8000, 5000); // has too many pixels at that ratio
+        widget.render(&part);
+        QCOMPARE(widget.sizeHint(), QSize(40, 20));
     }
 
     void showsTheIconLoadedLast()

@@ -1,6 +1,7 @@
 #include "samplefile.h"
 
 #include <QFile>
+#include <QImage>
 
 void SampleFile::write(const QByteArray &content) const
 {
@@ -14,4 +15,12 @@ void SampleFile::writeSvg(const char *color) const
     write(QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='20' height='10'>"
                      "<rect width='20' height='10' fill='")
           + color + "'/><ellipse cx='12' cy='5' rx='6' ry='3' fill='white'/></svg>");
+}
+
+void SampleFile::writeHugePicture() const
+{
+    QImage picture(9000, 9000, QImage::Format_Mono);
+    picture.fill(0);
+    if (!picture.save(m_path, "png"))
+        qFatal("Cannot write %s", qPrintable(m_path));
 }

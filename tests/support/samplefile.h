@@ -16,6 +16,8 @@ public:
     void write(const QByteArray &content) const;
     /*! A 20 × 10 SVG: an ellipse on a ground of \a color. */
     void writeSvg(const char *color) const;
+    /*! A small file, but of more pixels than a picture is worth. */
+    void writeHugePicture() const;
 
 private:
     QTemporaryDir m_folder;
