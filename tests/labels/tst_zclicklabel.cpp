@@ -15,7 +15,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("look");
         for (const char *look :
-             {"wrapped", "corner", "round, corner", "round, corner, picture, SVG",
+             {"wrapped", "wrapped anywhere", "Hebrew", "Hebrew, left", "mirrored", "corner",
+              "round, corner", "round, corner, picture, SVG",
               "round, corner, picture, SVG, disabled"})
             QTest::newRow(look) << look;
     }
@@ -26,7 +27,8 @@ private Q_SLOTS:
         const auto has = [&](const char *part) { return look.contains(part); };
         const int radius = has("round") ? 9 : 0;
         const QColor ground = has("round") ? QColor(20, 40, 200, 150) : Qt::transparent;
-        const QString text = "two words <b>&amp;</b>";
+        const QString text = has("Hebrew") ? "שלום <b>" : "two words <b>&amp;</b>";
+        const auto side = has("left") ? Qt::AlignLeft : Qt::AlignRight;
         const SampleFile svg("Icon.SVG");
         svg.writeSvg("#4080c0");
         QPixmap stripes(4, 3);
@@ -34,10 +36,13 @@ private Q_SLOTS:
         QPainter(&stripes).fillRect(0, 1, 4, 1, Qt::magenta);
 
         ZClickLabel label(text);
-        label.setAlignment(Qt::AlignRight | Qt::AlignTop);
+        label.setAlignment(side | Qt::AlignTop);
+        QGuiApplication::setLayoutDirection(has("mirrored") ? Qt::RightToLeft : Qt::LeftToRight);
         label.setFontColor(Qt::red);
         label.setTextSize(13);
         label.setWordWrap(has("wrapped"));
+        if (has("anywhere"))
+            label.setTextFlag(Qt::TextWrapAnywhere);
         label.setRadius(radius);
         label.setBgColor(ground);
         label.setRightCornerLabels(has("corner"));
@@ -56,9 +61,9 @@ private Q_SLOTS:
             if (has("SVG"))
                 QSvgRenderer(svg.path()).render(&painter, all);
 
-            const int wrapping = has("wrapped") ? Qt::TextWordWrap : 0;
+            const auto wrapping = has("anywhere") ? Qt::TextWrapAnywhere : Qt::TextWordWrap;
             painter.setPen(Qt::red);
-            painter.drawText(all, Qt::AlignRight | Qt::AlignTop | wrapping, text);
+            painter.drawText(all, side | Qt::AlignTop | (has("wrapped") ? wrapping : 0), text);
 
             const int leg = all.height() == 25 ? 10 : 17;
             const QPointF end(all.width(), 0);
@@ -88,17 +93,24 @@ private Q_SLOTS:
         QCOMPARE(snapshot(label).pixelColor(1, 1), QColor(Qt::transparent));
     }
 
-    void drawsNothingForBrokenFiles()
+    void drawsNothingOfBrokenFiles()
     {
-        for (const auto &[name, content] : {std::make_pair("bad.svg", "no image"),
+        const QByteArray zipped = QByteArray::fromBase64( // a black square
+            "H4sIAAAAAAACA7MpLku3sylKTS5RKM9MKcmwVbdUV8hIzUzPKAEx9e1s9EEqABjCT0MnAAAA");
+        for (const auto &[name, content] : {std::make_pair("bad.svg", QByteArray("no image")),
                                             {"cut.svg", "<svg><rect w"},
-                                            {"gz.svg", "\x1f\x8b\x08 "},
-                                            {"bad.bmp", "-"}}) {
+                                            {"zipped.svg", zipped},
+                                            {"black.svgz", zipped},
+                                            {"black.SVG.gz", zipped},
+                                            {"bad.bmp", "-"},
+                                            {"huge.png", {}}}) {
             const SampleFile file(name);
-            file.write(content);
+            content.isEmpty() ? file.writeHugePicture() : file.write(content);
             ZClickLabel label;
             label.setBgPicturePath(file.path());
-            COMPARE_PICTURES(snapshot(label, {9, 9}), blankPicture({9, 9}));
+            const auto seen = file.path().contains("black") ? Qt::black : Qt::transparent;
+            COMPARE_PICTURES(snapshot(label, {9, 9}),
+                             reference({9, 9}, [&](auto &p) { p.fillRect(0, 0, 9, 9, seen); }));
         }
     }
 
@@ -112,11 +124,12 @@ private Q_SLOTS:
         const QFont before = label.font();
         QVERIFY(before.italic() && before.bold() && before.pixelSize() == 21
                 && before.family() == "DejaVu Sans");
-        for (int value : {-1, 5000, std::numeric_limits<int>::min()}) {
+        for (int value : {-1, 4001, std::numeric_limits<int>::min()}) {
             label.setTextSize(qMin(value, 0));
             label.setFontWeight(value);
             label.setItalic(false, value);
         }
+        label.setFontWeight(100);
         QCOMPARE(label.font(), before);
     }
 
@@ -147,10 +160,17 @@ private Q_SLOTS:
     void leavesEventsToItsParent()
     {
         ZClickLabel label;
-        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-            QMouseEvent event(type, QPoint(), Qt::LeftButton, Qt::LeftButton, {});
-            QCoreApplication::sendEvent(&label, &event);
-            QVERIFY(!event.isAccepted());
+        int taps = 0;
+        connect(&label, &ZClickLabel::signal_pressed, [&] { taps += 100; });
+        connect(&label, &ZClickLabel::signal_released, [&] { taps += 10; });
+        connect(&label, &ZClickLabel::signal_clicked, [&] { ++taps; });
+        for (const auto button : {Qt::RightButton, Qt::LeftButton}) {
+            for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+                QMouseEvent event(type, QPoint(), button, button, {});
+                QCoreApplication::sendEvent(&label, &event);
+                QVERIFY(!event.isAccepted());
+            }
+            QCOMPARE(taps, button == Qt::LeftButton ? 111 : 0);
         }
     }
 };
