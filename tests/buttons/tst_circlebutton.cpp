@@ -1,6 +1,7 @@
 #include "buttontest.h"
 
 #include <circlebutton.h>
+#include <tuple>
 #include <zsvgwidget.h>
 
 using namespace ZIRVOUI;
@@ -46,17 +47,35 @@ private Q_SLOTS:
         QCOMPARE(CircleButton(QString()).findChild<ZSvgWidget *>()->maximumSize(), QSize(0, 0));
     }
 
-    void reportsALongPressOnce()
+    void reportsAfterItsDelayAndIntervals()
     {
         CircleButton button((QString()));
-        button.setLongPressDelayMS(-5);
-        button.setLongPressIntervalMS(20);
         button.show(); // a hidden one does not repeat
         QSignalSpy reports(&button, &CircleButton::signal_longPressed);
-        QTest::mousePress(&button, Qt::LeftButton);
-        QTest::qWait(100);
-        QTest::mouseRelease(&button, Qt::LeftButton);
-        QCOMPARE(reports.count(), 1);
+        // Delay, interval, whether it repeats, and the reports in 100 ms.
+        for (const auto &[delay, interval, repeats, count] :
+             {std::make_tuple(-5, 20, false, 1), {-5, 60000, true, 1}, {60000, 0, true, 0}}) {
+            button.setLongPressDelayMS(delay);
+            button.setLongPressIntervalMS(interval);
+            button.setLongPressRepeat(repeats);
+            reports.clear();
+            QTest::mousePress(&button, Qt::LeftButton);
+            QTest::qWait(100);
+            QTest::mouseRelease(&button, Qt::LeftButton);
+            QCOMPARE(reports.count(), count);
+        }
+    }
+
+    void countsFromTheFirstOfItsPresses()
+    {
+        CircleButton button((QString()));
+        button.setLongPressDelayMS(80);
+        QSignalSpy reports(&button, &CircleButton::signal_longPressed);
+        const auto hasReported = [&] { // is asked every 50 ms
+            QTest::mousePress(&button, Qt::RightButton);
+            return reports.count() == 1;
+        };
+        QTRY_VERIFY(hasReported());
     }
 
     void repeatsWhileDownEnabledAndVisible()

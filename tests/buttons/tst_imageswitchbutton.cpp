@@ -25,6 +25,7 @@ private Q_SLOTS:
         button.setOpenState(false);
         QCOMPARE(shown(), QColor("red"));
         button.setOpenState(true);
+        QVERIFY(button.openState());
         QCOMPARE(clicks.count(), 0);
         button.click();
         QCOMPARE(clicks.takeFirst(), QVariantList{false});

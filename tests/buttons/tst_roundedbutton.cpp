@@ -90,6 +90,8 @@ private Q_SLOTS:
         finger.move({5, -5});
         finger.move({5, 5});
         finger.release({5, 5});
+        QTest::mousePress(&button, Qt::LeftButton, {}, {5, 5});
+        QTest::mouseRelease(&button, Qt::LeftButton, {}, {5, -5}); // as the first to be outside
         QCOMPARE(clicks.count(), 1);
     }
 

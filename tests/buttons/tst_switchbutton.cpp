@@ -145,6 +145,12 @@ private Q_SLOTS:
         SwitchButton button;
         QVERIFY(!repaints(button, [&] { button.setCheckText("I"), button.setNoCheckText("O"); }));
         QVERIFY(repaints(button, [&] { button.setMargin(1); }));
+        for (const auto &[type, shape] : {std::make_pair(QEvent::Enter, Qt::PointingHandCursor),
+                                          {QEvent::Leave, Qt::ArrowCursor}}) {
+            QEvent event(type);
+            QVERIFY(repaints(button, [&] { QCoreApplication::sendEvent(&button, &event); }));
+            QCOMPARE(button.cursor().shape(), shape);
+        }
         QVERIFY(repaints(button, [&] { button.setOffset(1); }));
         QVERIFY(repaints(button, [&] { button.setCheckedBackground(Qt::red); }));
         QVERIFY(repaints(button, [&] { button.setNocheckedBackground(Qt::red); }));

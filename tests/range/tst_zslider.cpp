@@ -139,9 +139,12 @@ private Q_SLOTS:
         finger.press({214, 0});
         slider.setSliderPosition(7);
         finger.release({214, 0});
+        slider.setSliderDown(true);
+        slider.setSliderPosition(9);
+        slider.setValue(9);
         QCOMPARE(log,
                  QString("pressed moved 50=50 is 50 moved 60=60 is 60 moved 100=100 is 100 "
-                         "released pressed moved 7=100 released is 7 "));
+                         "released pressed moved 7=100 released is 7 pressed moved 9=7 is 9 "));
     }
 
     void keepsItsHandle()
