@@ -42,12 +42,12 @@ QString nameOf(QWidget &widget)
     return interfaceOf(widget).text(QAccessible::Name);
 }
 
-/*! Current value, minimum and maximum. */
+/*! Current value, minimum, maximum and step. */
 QVector<double> valuesOf(QWidget &widget)
 {
     QAccessibleValueInterface &values = *interfaceOf(widget).valueInterface();
     return {values.currentValue().toDouble(), values.minimumValue().toDouble(),
-            values.maximumValue().toDouble()};
+            values.maximumValue().toDouble(), values.minimumStepSize().toDouble()};
 }
 
 bool isBusy(QWidget &widget)
@@ -126,15 +126,17 @@ private Q_SLOTS:
         ProgressBar bar;
         bar.setRange(-10.0, 90.5);
         bar.setValue(12.5);
-        QCOMPARE(valuesOf(bar), (QVector<double>{12.5, -10, 90.5}));
+        QCOMPARE(valuesOf(bar), (QVector<double>{12.5, -10, 90.5, 0}));
         QCOMPARE(interfaceOf(bar).text(QAccessible::Value), QString("12.5"));
+        bar.setAccessibleName("Copying");
+        QCOMPARE(nameOf(bar), QString("Copying"));
 
         CircleProgess ring;
         ring.setMin(1);
         ring.setMax(3);
         ring.setValue(2);
         interfaceOf(ring).valueInterface()->setCurrentValue(3);
-        QCOMPARE(valuesOf(ring), (QVector<double>{2, 1, 3}));
+        QCOMPARE(valuesOf(ring), (QVector<double>{2, 1, 3, 0}));
         QVERIFY(interfaceOf(ring).state().readOnly);
     }
 
@@ -144,7 +146,7 @@ private Q_SLOTS:
         slider.resize(211, 31);
         const QImage before = snapshot(slider);
         interfaceOf(slider).valueInterface()->setCurrentValue(1e300);
-        QCOMPARE(valuesOf(slider), (QVector<double>{99, 0, 99}));
+        QCOMPARE(valuesOf(slider), (QVector<double>{99, 0, 99, 1}));
         const QImage after = snapshot(slider);
         slider.calcHandlePosition();
         COMPARE_PICTURES(snapshot(slider), after);
@@ -184,6 +186,8 @@ private Q_SLOTS:
         QAccessibleActionInterface *actions = interfaceOf(*label).actionInterface();
         QCOMPARE(actions->actionNames(), QStringList(press));
         actions->doAction(press);
+        actions->doAction(actions->setFocusAction());
+        QCOMPARE(label->focusWidget(), label);
         QCOMPARE(order, QStringList({"pressed", "released", "clicked"}));
 
         label->setEnabled(false);

@@ -15,6 +15,7 @@ const QString LongText = "A text that is longer than the label";
 struct Marquee : ZScrollLabel
 {
     explicit Marquee(const QString &text = LongText, const QSize &size = {90, 30})
+        : ZScrollLabel(text)
     {
         QFont bigFont = font();
         bigFont.setPixelSize(16);
@@ -22,7 +23,6 @@ struct Marquee : ZScrollLabel
         setTimerMsc(Never);
         resize(size);
         show();
-        setText(text);
     }
 
     QList<QAbstractEventDispatcher::TimerInfo> timers()
@@ -77,6 +77,11 @@ private Q_SLOTS:
         QCOMPARE(label.timers().size(), 0);
         label.resize(label.textWidth() - 1, 30);
         QCOMPARE(label.timers().size(), 1);
+        label.setScrollDirection(ScrollVertical);
+        label.resize(90, 0);
+        QCOMPARE(label.timers().size(), 1);
+        label.setText({});
+        QCOMPARE(label.timers().size(), 0);
     }
 
     void runsThroughItsSeam()
@@ -146,6 +151,8 @@ private Q_SLOTS:
     {
         Marquee label;
         label.run(1, 9);
+        QTimerEvent another(-1);
+        QCoreApplication::sendEvent(&label, &another);
         label.hide();
         label.run(1, 9);
         QCOMPARE(label.shows({-9}, 15), QString());
@@ -173,6 +180,7 @@ private Q_SLOTS:
             label.setSpacing(INT_MAX);
             label.run(INT_MIN, 3);
             label.run(INT_MAX, 3);
+            label.resize(0, 10);
             snapshot(label, {1, 10});
         }
     }

@@ -1,5 +1,6 @@
 #include "progresstest.h"
 
+#include <QHBoxLayout>
 #include <QParallelAnimationGroup>
 #include <circulardelegate.h>
 #include <circularloadingwidget.h>
@@ -90,10 +91,17 @@ private Q_SLOTS:
 
     void repaintsForEachPartOfItsLook()
     {
+        QWidget window;
+        QHBoxLayout layout(&window);
         CircularLoadingWidget spinner;
         spinner.findChild<QParallelAnimationGroup *>()->stop();
         auto *arc = spinner.findChild<CircularDelegate *>();
+        layout.addWidget(&spinner);
+        window.show();
         QVERIFY(!repaints(spinner, [&] { spinner.setCirqueColor(Qt::red); }));
+        QVERIFY(!layout.activate());
+        spinner.setLineWidth(5);
+        QVERIFY(layout.activate()); // as it has to be looked at again
         QVERIFY(repaints(spinner, [&] { spinner.setProperty("lineWidth", 3); }));
         QVERIFY(repaints(spinner, [&] { spinner.setProperty("color", QColor(Qt::red)); }));
         for (const char *property : {"dashOffset", "dashLength", "angle"})
