@@ -60,8 +60,8 @@ public:
      *
      * An SVG is drawn over the picture, and neither takes the other's place.  The file of an SVG
      * is read at every paint, so a rewritten file shows at the next one.  A file that cannot be
-     * read draws nothing, nor does a bitmap of more than 64 million pixels.  The path is trusted: a
-     * large file costs its reading at every paint.
+     * read draws nothing, nor does a pipe, a device or a bitmap of more than 64 million pixels.
+     * The path is trusted: a large file costs its reading at every paint.
      */
     void setBgPicturePath(const QString &path);
 

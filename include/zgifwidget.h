@@ -23,7 +23,9 @@ class ZCOMMONWIDGETS_EXPORT ZGifWidget : public QLabel
     Q_OBJECT
 
 public:
-    /*! Plays the file at \a path; an empty path plays nothing, nor do 64 million pixels and more.
+    /*!
+     * Plays the file at \a path; an empty path plays nothing, nor does a pipe, a device or one of
+     * more than 64 million pixels.
      */
     explicit ZGifWidget(const QString &path, QWidget *parent = nullptr);
     ~ZGifWidget() override;

@@ -62,7 +62,7 @@ public:
     /*!
      * A picture file stretched over the background, corners included, empty for none; repaints.
      * It is read at every paint, so a rewritten file shows at the next one.  One that cannot be
-     * read, or of more than 64 million pixels, draws nothing.
+     * read, a pipe, a device, or one of more than 64 million pixels draws nothing.
      */
     void setBgPicture(const QString &path);
     /*! White by default; repaints. */

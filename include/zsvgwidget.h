@@ -32,8 +32,8 @@ public:
 
     /*!
      * Shows the file at \a path and repaints: an SVG if \a path contains ".svg" in any case, else
-     * a bitmap.  A file that cannot be read shows nothing, nor does a bitmap of more than 64
-     * million pixels.
+     * a bitmap.  A file that cannot be read shows nothing, nor does a pipe, a device or a bitmap of
+     * more than 64 million pixels.
      *
      * The file of an SVG is read at every paint, so a rewritten file shows at the next one; that
      * of a bitmap is read now.  The path is trusted: a large file costs its reading each time.

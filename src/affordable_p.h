@@ -1,6 +1,8 @@
 #ifndef AFFORDABLE_P_H
 #define AFFORDABLE_P_H
 
+#include "readablefile_p.h"
+
 #include <QImageReader>
 #include <QPixmap>
 
@@ -23,8 +25,7 @@ inline bool isAffordable(const QImageReader &reader)
 /*! The bitmap at \a path; a null one if that cannot be read, or is too large by its header. */
 inline QPixmap affordableBitmap(const QString &path)
 {
-    // QFile prints a warning for an empty name.
-    if (path.isEmpty() || !isAffordable(QImageReader(path)))
+    if (!isReadableFile(path) || !isAffordable(QImageReader(path)))
         return {};
     return QPixmap(path);
 }

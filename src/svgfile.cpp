@@ -1,6 +1,5 @@
+#include "readablefile_p.h"
 #include "svgfile_p.h"
-
-#include <QFile>
 
 namespace ZIRVOUI {
 
@@ -14,14 +13,9 @@ bool isCompressedPath(const QString &path)
 
 QByteArray svgBytes(const QString &path)
 {
-    // QFile prints a warning for an empty name.
-    QFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
-        return {};
-
     // By path, QSvgRenderer lets the name decide whether a file is compressed; by bytes, the
     // content.  Where the two differ the path would have drawn nothing.
-    const QByteArray bytes = file.readAll();
+    const QByteArray bytes = fileBytes(path);
     return bytes.startsWith("\x1f\x8b") == isCompressedPath(path) ? bytes : QByteArray();
 }
 

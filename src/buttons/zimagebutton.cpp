@@ -6,28 +6,18 @@
 #include "flipchecked_p.h"
 #include "kept_p.h"
 #include "laidouttext_p.h"
+#include "readablefile_p.h"
 #include "stretchedpicture_p.h"
 #include "svgfile_p.h"
 #include "widgetlength_p.h"
 #include "zsvgwidget.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QPainter>
 #include <QStyleOptionButton>
 #include <QVBoxLayout>
 
 namespace ZIRVOUI {
-
-namespace {
-
-QByteArray fileBytes(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-} // namespace
 
 class ZImageButtonPrivate
 {

@@ -1,6 +1,7 @@
 #include "zgifwidget.h"
 
 #include "affordable_p.h"
+#include "readablefile_p.h"
 #include "widgetlength_p.h"
 
 #include <QMovie>
@@ -11,7 +12,7 @@ ZGifWidget::ZGifWidget(const QString &path, QWidget *parent)
     : QLabel(parent)
     , m_movie(new QMovie)
 {
-    if (!path.isEmpty() && isAffordable(QImageReader(path))) { // Qt warns of an empty name
+    if (isReadableFile(path) && isAffordable(QImageReader(path))) {
         m_movie->setFileName(path);
         m_movie->start();
     }

@@ -72,6 +72,11 @@ private Q_SLOTS:
         QCOMPARE(shown(), QColor('x', 'y', 'z'));
         file.writeHugePicture();
         QCOMPARE(shown(), QColor(Qt::white));
+
+        const SampleFile pipe("pipe.ppm");
+        pipe.makePipe();
+        button.setBgPicture(pipe.path());
+        QCOMPARE(shown(), QColor(Qt::white));
     }
 
     void drawsItsIconSharp()

@@ -41,11 +41,13 @@ private Q_SLOTS:
 
     void showsNothingOfABadFile()
     {
-        const SampleFile broken("broken.gif"), huge("huge.png");
+        const SampleFile broken("broken.gif"), huge("huge.png"), pipe("pipe.gif");
         broken.write("GIF89a");
         huge.writeHugePicture();
-        for (const QString &path :
-             {broken.path(), huge.path(), QString("missing.gif"), QString()}) {
+        pipe.makePipe();
+        const QString impossible = QString::fromLatin1("nul\0.gif", 8);
+        for (const QString &path : {broken.path(), huge.path(), pipe.path(), impossible,
+                                    QString("missing.gif"), QString()}) {
             ZGifWidget widget(path);
             widget.setSize(20, 20);
             COMPARE_PICTURES(snapshot(widget, {9, 9}), blankPicture({9, 9}));

@@ -107,6 +107,16 @@ private Q_SLOTS:
         QVERIFY(!widget.sizeHint().isValid());
     }
 
+    void showsNothingOfAPipe()
+    {
+        for (const char *name : {"pipe.svg", "pipe.png"}) {
+            const SampleFile pipe(name);
+            pipe.makePipe();
+            ZSvgWidget widget(pipe.path());
+            COMPARE_PICTURES(snapshot(widget, {9, 9}), blankPicture({9, 9}));
+        }
+    }
+
     void showsTheFirstFrameOfAnAnimation()
     {
         const SampleFile svg("icon.svg");

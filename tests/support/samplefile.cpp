@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QImage>
+#include <sys/stat.h>
 
 void SampleFile::write(const QByteArray &content) const
 {
@@ -23,4 +24,10 @@ void SampleFile::writeHugePicture() const
     picture.fill(0);
     if (!picture.save(m_path, "png"))
         qFatal("Cannot write %s", qPrintable(m_path));
+}
+
+void SampleFile::makePipe() const
+{
+    if (mkfifo(QFile::encodeName(m_path), S_IRUSR | S_IWUSR) != 0)
+        qFatal("Cannot make %s", qPrintable(m_path));
 }

@@ -18,6 +18,8 @@ public:
     void writeSvg(const char *color) const;
     /*! A small file, but of more pixels than a picture is worth. */
     void writeHugePicture() const;
+    /*! A pipe instead of a file, which nobody writes to: opening it would wait for ever. */
+    void makePipe() const;
 
 private:
     QTemporaryDir m_folder;
