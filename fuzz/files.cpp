@@ -1,5 +1,5 @@
-// Gives damaged and hostile files to every class that takes a path or rich text, each in a process
-// of its own with little time and memory: files [part of a name]
+// Gives damaged and hostile files, and what is no file, to every class that takes a path or rich
+// text, each in a process of its own with little time and memory: files [part of a name]
 
 #include "circlebutton.h"
 #include "commonlabelwidget.h"
@@ -21,8 +21,10 @@
 #include <QImage>
 #include <QTemporaryDir>
 #include <cstdio>
+#include <fcntl.h>
 #include <memory>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -36,21 +38,30 @@ constexpr long MostMemory = 600; // megabytes: a picture of 64 million pixels an
 struct Reader
 {
     const char *name;
-    QWidget *(*make)(const QString &path);
+    std::function<QWidget *(const QString &path)> make;
 };
+
+/*! What a reader finds at its path. */
+struct Hazard
+{
+    QByteArray name; // with the suffix of its kind
+    std::function<void(const QString &path)> put; // none if the name itself is the path
+};
+
+template <typename Widget>
+Reader setter(const char *name, void (Widget::*set)(const QString &))
+{
+    return {name, [set](const QString &path) {
+                auto *widget = new Widget(Stage::window());
+                (widget->*set)(path);
+                return widget;
+            }};
+}
 
 QString textOf(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-template <typename Widget, typename Setter>
-QWidget *set(Setter setter, const QString &value)
-{
-    auto *widget = new Widget(Stage::window());
-    (widget->*setter)(value);
-    return widget;
 }
 
 template <typename Label>
@@ -62,44 +73,99 @@ QWidget *labelOf(const QString &path)
     return label;
 }
 
-const Reader Pictures[] = {
-    {"ZSvgWidget",
-     [](const QString &path) { return set<ZSvgWidget>(&ZSvgWidget::loadSvgImage, path); }},
-    {"ZClickLabel",
-     [](const QString &path) { return set<ZClickLabel>(&ZClickLabel::setBgPicturePath, path); }},
-    {"CommonLabelWidget",
-     [](const QString &path) {
-         return set<CommonLabelWidget>(qOverload<const QString &>(&CommonLabelWidget::setIcon),
-                                       path);
-     }},
-    {"CircleButton",
-     [](const QString &path) -> QWidget * { return new CircleButton(path, Stage::window()); }},
+QWidget *pageOf(const QString &path)
+{
+    auto *page = new ZTextWidget(Stage::window());
+    page->setHtml(textOf(path));
+    return page;
+}
+
+QWidget *toastOf(const QString &path)
+{
+    auto *toast = new ZToastDialog(ToastConfirm, {}, Stage::window());
+    toast->loadImage(path);
+    return toast;
+}
+
+const std::vector<Reader> Pictures = {
+    setter("ZSvgWidget", &ZSvgWidget::loadSvgImage),
+    setter("ZClickLabel", &ZClickLabel::setBgPicturePath),
+    setter<CommonLabelWidget>("CommonLabelWidget", &CommonLabelWidget::setIcon),
+    {"CircleButton", [](auto &path) { return new CircleButton(path, Stage::window()); }},
     {"ImageSwitchButton",
-     [](const QString &path) -> QWidget * {
-         return new ImageSwitchButton(path, path, Stage::window());
-     }},
+     [](auto &path) { return new ImageSwitchButton(path, path, Stage::window()); }},
     {"ZImageButton, icon and sign",
-     [](const QString &path) -> QWidget * {
-         return new ZImageButton({}, path, path, Stage::window());
-     }},
-    {"ZImageButton, background",
-     [](const QString &path) { return set<ZImageButton>(&ZImageButton::setBgPicture, path); }},
-    {"ZGifWidget",
-     [](const QString &path) -> QWidget * { return new ZGifWidget(path, Stage::window()); }},
-    {"ZToastDialog",
-     [](const QString &path) -> QWidget * {
-         auto *toast = new ZToastDialog(ToastConfirm, {}, Stage::window());
-         toast->loadImage(path);
-         return toast;
-     }},
+     [](auto &path) { return new ZImageButton({}, path, path, Stage::window()); }},
+    setter("ZImageButton, background", &ZImageButton::setBgPicture),
+    {"ZGifWidget", [](auto &path) { return new ZGifWidget(path, Stage::window()); }},
+    {"ZToastDialog", toastOf},
 };
 
-const Reader Pages[] = {
-    {"ZTextWidget",
-     [](const QString &path) { return set<ZTextWidget>(&ZTextWidget::setHtml, textOf(path)); }},
+const std::vector<Reader> Pages = {
+    {"ZTextWidget", pageOf},
     {"ZResizableLabel", labelOf<ZResizableLabel>},
     {"ZClickLabel, text", labelOf<ZClickLabel>},
 };
+
+/*! Something that has a path and is no file; its function fails with -1, as those of POSIX do. */
+struct Special
+{
+    const char *name;
+    int (*make)(const char *path);
+};
+
+const Special Specials[] = {
+    {"pipe", [](const char *path) { return mkfifo(path, S_IRWXU); }},
+    {"silentpipe", [](const char *path) { return mkfifo(path, S_IRWXU) | open(path, O_RDWR); }},
+    {"socket", [](const char *path) { return mknod(path, S_IFSOCK | S_IRWXU, 0); }},
+    {"zero", [](const char *path) { return symlink("/dev/zero", path); }},
+    {"full", [](const char *path) { return symlink("/dev/full", path); }},
+    {"null", [](const char *path) { return symlink("/dev/null", path); }},
+    {"itself", [](const char *path) { return symlink(path, path); }},
+    {"locked", [](const char *path) { return creat(path, 0); }}, // for all but root
+};
+
+const QByteArray BarePaths[] = {
+    "",
+    ".",
+    ":/",
+    ":/missing.svg",
+    ":/missing.png",
+    "qrc:/missing.svg",
+    "qrc:/missing.png",
+    "http://localhost/missing.svg",
+    "http://localhost/missing.png",
+    {"a\0.svg", 6},
+    {"a\0.png", 6},
+    QByteArray("x").repeated(5000) + ".svg",
+    QByteArray("x").repeated(5000) + ".png",
+};
+
+std::vector<Hazard> hazards()
+{
+    std::vector<Hazard> all;
+    for (const DamagedFile &file : damagedFiles())
+        all.push_back({file.name, [file](auto &path) { Samples::write(path, file.bytes); }});
+    for (const Special &special : Specials) {
+        const auto put = [special](const QString &path) {
+            if (special.make(qPrintable(path)) < 0)
+                qFatal("cannot make %s", qPrintable(path));
+        };
+        for (const char *suffix : {".svg", ".png"})
+            all.push_back({QByteArray(special.name) + suffix, put});
+    }
+    for (const QByteArray &path : BarePaths)
+        all.push_back({path, nullptr});
+    return all;
+}
+
+std::unique_ptr<QWidget> shown(const Reader &reader, const QString &path)
+{
+    std::unique_ptr<QWidget> widget(reader.make(path));
+    widget->resize(40, 30);
+    widget->show();
+    return widget;
+}
 
 void paint(QWidget &widget)
 {
@@ -109,23 +175,29 @@ void paint(QWidget &widget)
     Stage::time().pass(FrameTime, 4);
 }
 
-// What is at the path changes between two paints: damaged, whole, gone, back.
-void read(const Reader &reader, const QString &path, const DamagedFile &file)
+void clear(const QString &path)
+{
+    QFile::remove(path);
+    QDir().rmdir(path);
+}
+
+// What is at the path changes between two paints: hostile, whole, gone, a folder, hostile.
+void read(const Reader &reader, const QString &path, const Hazard &hazard)
 {
     const Stage::Leniency leniency; // what is wrong with a file may be told
-    Samples::write(path, file.bytes);
-    const std::unique_ptr<QWidget> widget(reader.make(path));
-    widget->resize(40, 30);
-    widget->show();
+    clear(path);
+    hazard.put(path);
+    const auto widget = shown(reader, path);
     paint(*widget);
+    clear(path);
     Samples::write(path, path.endsWith("png") ? Samples::png() : Samples::svg());
     paint(*widget);
-    QFile::remove(path);
+    clear(path);
     paint(*widget);
     QDir().mkdir(path);
     paint(*widget);
-    QDir().rmdir(path);
-    Samples::write(path, file.bytes);
+    clear(path);
+    hazard.put(path);
     paint(*widget);
 }
 
@@ -138,15 +210,15 @@ const char *verdict(int status, long kilobytes)
     return kilobytes / 1024 > MostMemory ? "takes much memory" : nullptr;
 }
 
-bool survives(const Reader &reader, const QString &folder, const DamagedFile &file)
+bool survives(const Reader &reader, const QString &folder, const Hazard &hazard)
 {
-    const QString path = folder + '/' + file.name;
-    QFile::remove(path);
-    QDir().rmdir(path);
     const pid_t child = fork();
     if (child == 0) {
         alarm(Patience);
-        read(reader, path, file);
+        if (hazard.put)
+            read(reader, folder + '/' + hazard.name, hazard);
+        else
+            paint(*shown(reader, QString::fromLatin1(hazard.name)));
         _exit(0);
     }
     int status = 0;
@@ -154,7 +226,7 @@ bool survives(const Reader &reader, const QString &folder, const DamagedFile &fi
     wait4(child, &status, 0, &used);
     const char *fault = verdict(status, used.ru_maxrss);
     if (fault)
-        printf("%s %s with %s\n", reader.name, fault, file.name.constData());
+        printf("%s %s with \"%.60s\"\n", reader.name, fault, hazard.name.constData());
     fflush(stdout);
     return !fault;
 }
@@ -167,15 +239,12 @@ int main(int count, char **arguments)
     const QTemporaryDir folder;
     int faults = 0;
     int cases = 0;
-    for (const DamagedFile &file : damagedFiles()) {
-        const bool isPage = file.name.endsWith("html");
-        const auto *begin = isPage ? std::begin(Pages) : std::begin(Pictures);
-        const auto *end = isPage ? std::end(Pages) : std::end(Pictures);
-        for (const auto *reader = begin; reader != end; ++reader) {
-            if (count > 1 && !file.name.contains(arguments[1]))
-                continue;
+    for (const Hazard &hazard : hazards()) {
+        if (count > 1 && !hazard.name.contains(arguments[1]))
+            continue;
+        for (const Reader &reader : hazard.name.endsWith("html") ? Pages : Pictures) {
             ++cases;
-            faults += !survives(*reader, folder.path(), file);
+            faults += !survives(reader, folder.path(), hazard);
         }
     }
     printf("%d cases, %d faults\n", cases, faults);
