@@ -12,8 +12,8 @@ namespace ZIRVOUI {
  * parent shows.  A click gives it the focus, the Tab key does not.
  *
  * It tells who gained and who lost the focus, so that one slot can serve all fields of a screen,
- * for one to show the on-screen keyboard.  Qt goes on with the line edit after these signals: a
- * slot that wants it deleted uses deleteLater().
+ * such as to show the on-screen keyboard.  A slot of these signals may delete the line edit, but
+ * not while the application is inside its clearFocus(): there Qt goes on with it.
  */
 class ZCOMMONWIDGETS_EXPORT LineEdit : public QLineEdit
 {
@@ -41,6 +41,7 @@ Q_SIGNALS:
     void signal_focusOut(QWidget *edit);
 
 protected:
+    bool event(QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 };

@@ -3,6 +3,10 @@
 #include "widgetlook_p.h"
 
 #include <QFocusEvent>
+#include <QGuiApplication>
+#include <QInputMethod>
+#include <QPointer>
+#include <QTransform>
 #include <QValidator>
 
 namespace ZIRVOUI {
@@ -10,6 +14,15 @@ namespace ZIRVOUI {
 namespace {
 
 constexpr QRgb DisabledTextColor = 0xff787878;
+
+void tellInputMethod(const QWidget &widget)
+{
+    const QPoint position = widget.mapTo(widget.window(), QPoint());
+    QInputMethod *method = QGuiApplication::inputMethod();
+    method->setInputItemTransform(QTransform::fromTranslate(position.x(), position.y()));
+    method->setInputItemRectangle(widget.rect());
+    method->update(Qt::ImInputItemClipRectangle);
+}
 
 } // namespace
 
@@ -43,6 +56,19 @@ void LineEdit::fixUp()
     if (validator())
         validator()->fixup(fixed);
     setText(fixed);
+}
+
+bool LineEdit::event(QEvent *event)
+{
+    if (event->type() != QEvent::FocusIn)
+        return QLineEdit::event(event);
+
+    // What QWidget does, which goes on with a widget that a slot may have deleted.
+    const QPointer<LineEdit> guard(this);
+    focusInEvent(static_cast<QFocusEvent *>(event));
+    if (guard)
+        tellInputMethod(*this);
+    return true;
 }
 
 void LineEdit::focusInEvent(QFocusEvent *event)

@@ -73,9 +73,26 @@ private Q_SLOTS:
         Finger(first).tap(first.rect().center());
         Finger(first).tap(first.rect().center());
         Finger(second).tap(second.rect().center());
+        const QInputMethod &method = *QGuiApplication::inputMethod();
+        QCOMPARE(method.inputItemTransform().map(QPoint()), second.pos());
+        QCOMPARE(method.inputItemRectangle(), QRectF(second.rect()));
         stock.setFocus(Qt::PopupFocusReason);
         QCoreApplication::processEvents();
         QCOMPARE(m_log, QString("in 1, out 1, in 2, out 2, "));
+    }
+
+    void mayBeDeletedInItsSlots()
+    {
+        for (const auto signal : {&LineEdit::signal_focusIn, &LineEdit::signal_focusOut}) {
+            const QPointer<LineEdit> edit(new LineEdit);
+            connect(edit, signal, [&] { delete edit; });
+            for (const auto change : {QEvent::FocusIn, QEvent::FocusOut}) {
+                QFocusEvent event(change);
+                if (edit)
+                    QCoreApplication::sendEvent(edit, &event);
+            }
+            QVERIFY(!edit);
+        }
     }
 
     void takesComposedAndPastedAddresses()
