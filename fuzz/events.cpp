@@ -1,4 +1,4 @@
-#include "events.h"
+#include "trial.h"
 
 #include <QApplication>
 #include <QInputMethodEvent>
@@ -118,21 +118,6 @@ void resize(QWidget &widget, Values &values)
         widget.resize(side % 90, values.below(70));
 }
 
-void enable(QWidget &widget, Values &values)
-{
-    widget.setEnabled(values.take<bool>());
-}
-
-void setVisible(QWidget &widget, Values &values)
-{
-    widget.setVisible(values.take<bool>());
-}
-
-void changeFont(QWidget &widget, Values &values)
-{
-    widget.setFont(values.take<QFont>());
-}
-
 void changePalette(QWidget &widget, Values &values)
 {
     QPalette palette;
@@ -164,33 +149,33 @@ void changeDirection(QWidget &widget, Values &values)
 const std::vector<Happening> &happenings()
 {
     static const std::vector<Happening> list = {
-        {"press", mouse<QEvent::MouseButtonPress>, Origin::Pointer},
-        {"release", mouse<QEvent::MouseButtonRelease>, Origin::Pointer},
-        {"double click", mouse<QEvent::MouseButtonDblClick>, Origin::Pointer},
-        {"move", mouse<QEvent::MouseMove>, Origin::Pointer},
-        {"key", key, Origin::Event},
-        {"wheel", wheel, Origin::Event},
-        {"touch", touch<QEvent::TouchBegin>, Origin::Event},
-        {"touch move", touch<QEvent::TouchUpdate>, Origin::Event},
-        {"touch end", touch<QEvent::TouchEnd>, Origin::Event},
-        {"focus in", focus<QEvent::FocusIn>, Origin::Event},
-        {"focus out", focus<QEvent::FocusOut>, Origin::Event},
-        {"enter", plain<QEvent::Enter>, Origin::Event},
-        {"leave", plain<QEvent::Leave>, Origin::Event},
-        {"hover", hover, Origin::Event},
-        {"compose", compose, Origin::Event},
-        {"foreign timer", foreignTimer, Origin::Event},
-        {"resize", resize, Origin::Stock},
-        {"enable", enable, Origin::Stock},
-        {"visibility", setVisible, Origin::Stock},
-        {"font", changeFont, Origin::Stock},
-        {"palette", changePalette, Origin::Stock},
-        {"style", changeStyle, Origin::Stock},
-        {"style sheet", changeStyleSheet, Origin::Stock},
-        {"direction", changeDirection, Origin::Stock},
-        {"language", plain<QEvent::LanguageChange>, Origin::Event},
-        {"layout request", plain<QEvent::LayoutRequest>, Origin::Event},
-        {"close", [](QWidget &widget, Values &) { widget.close(); }, Origin::Stock},
+        {mouse<QEvent::MouseButtonPress>, Origin::Pointer},
+        {mouse<QEvent::MouseButtonRelease>, Origin::Pointer},
+        {mouse<QEvent::MouseButtonDblClick>, Origin::Pointer},
+        {mouse<QEvent::MouseMove>, Origin::Pointer},
+        {key, Origin::Event},
+        {wheel, Origin::Event},
+        {touch<QEvent::TouchBegin>, Origin::Event},
+        {touch<QEvent::TouchUpdate>, Origin::Event},
+        {touch<QEvent::TouchEnd>, Origin::Event},
+        {focus<QEvent::FocusIn>, Origin::Event},
+        {focus<QEvent::FocusOut>, Origin::Event},
+        {plain<QEvent::Enter>, Origin::Event},
+        {plain<QEvent::Leave>, Origin::Event},
+        {hover, Origin::Event},
+        {compose, Origin::Event},
+        {foreignTimer, Origin::Event},
+        {resize, Origin::Stock},
+        {call<QWidget>(&QWidget::setEnabled), Origin::Stock},
+        {call<QWidget>(&QWidget::setVisible), Origin::Stock},
+        {call<QWidget>(&QWidget::setFont), Origin::Stock},
+        {changePalette, Origin::Stock},
+        {changeStyle, Origin::Stock},
+        {changeStyleSheet, Origin::Stock},
+        {changeDirection, Origin::Stock},
+        {plain<QEvent::LanguageChange>, Origin::Event},
+        {plain<QEvent::LayoutRequest>, Origin::Event},
+        {call<QWidget>(&QWidget::close), Origin::Stock},
     };
     return list;
 }

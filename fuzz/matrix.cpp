@@ -1,14 +1,12 @@
 // Every signal and every handler of every class meets every reaction: matrix [class]
 // The names of the classes: matrix --list
 
-#include "events.h"
 #include "sequence.h"
 #include "stage.h"
 #include "virtualtime.h"
 
 #include <QImage>
 #include <QMetaMethod>
-#include <QScopedValueRollback>
 #include <cstdio>
 
 namespace {
@@ -33,14 +31,9 @@ struct Arguments
     unsigned char bytes[64];
 };
 
-using Handler = std::function<void(Trial &, Values &)>;
-
-Handler handlerOf(const Happening &happening)
+Step handlerOf(const Happening &happening)
 {
-    return [&happening](Trial &trial, Values &values) {
-        const QScopedValueRollback<Origin> origin(trial.origin, happening.origin);
-        happening.run(*trial.widget, values);
-    };
+    return [&](Trial &trial, Values &values) { trial.meet(happening, *trial.widget, values); };
 }
 
 void passTime(Trial &, Values &)
@@ -54,9 +47,9 @@ void paint(Trial &trial, Values &)
 }
 
 // All that makes code of the class run; time passes after a press too, before its release.
-std::vector<Handler> handlersOf(const Subject &subject)
+std::vector<Step> handlersOf(const Subject &subject)
 {
-    std::vector<Handler> handlers = {paint};
+    std::vector<Step> handlers = {paint};
     for (const Happening &happening : happenings()) {
         handlers.push_back(handlerOf(happening));
         if (happening.origin == Origin::Pointer)
@@ -70,9 +63,9 @@ std::vector<Handler> handlersOf(const Subject &subject)
     return handlers;
 }
 
-void tour(Trial &trial, const std::vector<Handler> &handlers, const Arguments &arguments)
+void tour(Trial &trial, const std::vector<Step> &handlers, const Arguments &arguments)
 {
-    for (const Handler &handler : handlers) {
+    for (const Step &handler : handlers) {
         if (!trial.widget)
             return;
         Values values = arguments.values();
@@ -114,7 +107,7 @@ void meetSignal(const Subject &subject, const QMetaMethod &signal, Tally &tally)
 
 void meetHandlers(const Subject &subject, Tally &tally)
 {
-    for (const Handler &handler : handlersOf(subject)) {
+    for (const Step &handler : handlersOf(subject)) {
         for (const Reaction &reaction : reactions()) {
             const Arguments arguments(1);
             Values values = arguments.values();

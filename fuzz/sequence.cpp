@@ -1,6 +1,5 @@
 #include "sequence.h"
 
-#include "events.h"
 #include "stage.h"
 #include "virtualtime.h"
 
@@ -14,27 +13,13 @@ namespace {
 
 constexpr int MostSteps = 40;
 
-template <typename Table>
-const auto &oneOf(const Table &table, Values &values)
-{
-    return table[size_t(values.byte()) % table.size()];
-}
-
-void callOwn(Trial &trial, Values &values)
-{
-    if (!trial.subject.calls.empty())
-        oneOf(trial.subject.calls, values)(*trial.widget, values);
-}
-
 void happen(Trial &trial, Values &values)
 {
     QWidget *target = trial.widget;
     const auto parts = target->findChildren<QWidget *>();
     if (values.below(8) == 0 && !parts.isEmpty())
         target = parts.at(values.below(parts.size()));
-    const Happening &happening = oneOf(happenings(), values);
-    const QScopedValueRollback<Origin> origin(trial.origin, happening.origin);
-    happening.run(*target, values);
+    trial.meet(values.oneOf(happenings()), *target, values);
 }
 
 void writeProperty(Trial &trial, Values &values)
@@ -113,12 +98,12 @@ void settle(Trial &, Values &)
 
 void react(Trial &trial, Values &values)
 {
-    oneOf(reactions(), values).run(trial, values);
+    values.oneOf(reactions()).run(trial, values);
 }
 
 void armReaction(Trial &trial, Values &values)
 {
-    const Reaction &reaction = oneOf(reactions(), values);
+    const Reaction &reaction = values.oneOf(reactions());
     trial.arm(reaction, -1, values);
 }
 
@@ -132,13 +117,12 @@ void keepPaintable(Trial &trial)
         trial.widget->setParent(Stage::window());
 }
 
-using Step = void (*)(Trial &, Values &);
-
 // What belongs to the library stands more often.
 const std::vector<Step> Steps = {
-    callOwn, callOwn, callOwn,       callOwn,    callOwn,     callOwn,  happen,
-    happen,  happen,  happen,        paint,      paint,       passTime, passTime,
-    repaint, settle,  writeProperty, invokeSlot, armReaction, react,
+    &Trial::callOwn, &Trial::callOwn, &Trial::callOwn, &Trial::callOwn, &Trial::callOwn,
+    &Trial::callOwn, happen,          happen,          happen,          happen,
+    paint,           paint,           passTime,        passTime,        repaint,
+    settle,          writeProperty,   invokeSlot,      armReaction,     react,
 };
 
 } // namespace
@@ -156,7 +140,7 @@ QImage pictureOf(QWidget &widget, double ratio)
 void runSequence(Trial &trial, Values &values)
 {
     for (int i = 0; i < MostSteps && trial.widget && !values.isEmpty(); ++i) {
-        oneOf(Steps, values)(trial, values);
+        values.oneOf(Steps)(trial, values);
         keepPaintable(trial);
     }
 }

@@ -3,6 +3,43 @@
 #include "stage.h"
 
 #include <QMetaMethod>
+#include <QScopedValueRollback>
+
+namespace {
+
+void reparent(Trial &trial, Values &values)
+{
+    trial.widget->setAttribute(Qt::WA_DontShowOnScreen);
+    const bool isHome = trial.widget->parentWidget() == trial.home;
+    QWidget *other = values.below(2) ? nullptr : Stage::window();
+    trial.widget->setParent(isHome ? other : trial.home.data());
+    if (trial.widget)
+        trial.widget->show();
+}
+
+void coverByDialog(Trial &trial, Values &)
+{
+    auto *dialog = new ZIRVOUI::ZBaseDialog(trial.widget);
+    dialog->setFixedSize(trial.widget->size());
+    dialog->show();
+}
+
+} // namespace
+
+const std::vector<Reaction> &reactions()
+{
+    static const std::vector<Reaction> list = {
+        {[](Trial &trial, Values &) { delete trial.widget; }, true},
+        {[](Trial &trial, Values &) { trial.widget->deleteLater(); }, false},
+        {[](Trial &trial, Values &) { trial.widget->hide(); }, false},
+        {[](Trial &trial, Values &) { trial.widget->setEnabled(false); }, false},
+        {reparent, false},
+        {coverByDialog, false},
+        {[](Trial &trial, Values &) { delete trial.home; }, true},
+        {[](Trial &trial, Values &values) { trial.callOwn(values); }, false},
+    };
+    return list;
+}
 
 /*! Receives any signal, without slots of its own: each signal calls the method of its index. */
 class Trial::Spy : public QObject
@@ -63,6 +100,18 @@ Trial::~Trial()
     delete widget;
     delete home;
     Stage::clear();
+}
+
+void Trial::meet(const Happening &happening, QWidget &target, Values &values)
+{
+    const QScopedValueRollback<Origin> rollback(origin, happening.origin);
+    happening.run(target, values);
+}
+
+void Trial::callOwn(Values &values)
+{
+    if (!subject.calls.empty())
+        values.oneOf(subject.calls)(*widget, values);
 }
 
 void Trial::arm(const Reaction &reaction, int signal, const Values &values)

@@ -9,6 +9,9 @@
 
 class Trial;
 
+/*! A step of a trial. */
+using Step = std::function<void(Trial &, Values &)>;
+
 /*! Where the code that handles a happening begins. */
 enum class Origin {
     Pointer,
@@ -16,11 +19,19 @@ enum class Origin {
     Stock //!< in a function of QWidget, which goes on after the widget's own code
 };
 
+/*! Something that happens to a widget: input, or a change of its surroundings. */
+struct Happening
+{
+    Call run;
+    Origin origin;
+};
+
+const std::vector<Happening> &happenings();
+
 /*! What a slot, or the application at any moment, may do to a widget. */
 struct Reaction
 {
-    const char *name;
-    void (*run)(Trial &trial, Values &values);
+    Step run;
     bool destroys;
 };
 
@@ -38,6 +49,11 @@ public:
     QPointer<QWidget> home;
     QPointer<QWidget> widget; // null once it is deleted
     Origin origin = Origin::Event; // of what is happening to the widget
+
+    /*! Lets something happen to the widget or to one of its parts. */
+    void meet(const Happening &happening, QWidget &target, Values &values);
+    /*! One of the calls of the subject. */
+    void callOwn(Values &values);
 
     /*! The next emission of the signal with this index, or of any with -1, meets the reaction. */
     void arm(const Reaction &reaction, int signal, const Values &values);

@@ -6,9 +6,8 @@
 #include <QFont>
 #include <QIcon>
 #include <QPixmap>
+#include <cfloat>
 #include <climits>
-#include <cmath>
-#include <limits>
 
 namespace {
 
@@ -21,27 +20,8 @@ constexpr int SpecialInts[] = {
 };
 
 const double SpecialDoubles[] = {
-    std::numeric_limits<double>::quiet_NaN(),
-    std::numeric_limits<double>::infinity(),
-    -std::numeric_limits<double>::infinity(),
-    std::numeric_limits<double>::max(),
-    std::numeric_limits<double>::lowest(),
-    std::numeric_limits<double>::denorm_min(),
-    -0.0,
-    1e-9,
-    0.1,
-    0.5,
-    0.999999,
-    1.5,
-    1e5,
-    -1e5,
-    1e9,
-    -1e9,
-    3e9,
-    -3e9,
-    1e18,
-    1e38,
-    -1e39,
+    qQNaN(), qInf(), -qInf(), DBL_MAX, -DBL_MAX, DBL_TRUE_MIN, -0.0, 1e-9, 0.1,  0.5,   0.999999,
+    1.5,     1e5,    -1e5,    1e9,     -1e9,     3e9,          -3e9, 1e18, 1e38, -1e39,
 };
 
 const char *const Texts[] = {
@@ -66,11 +46,6 @@ auto anyOf(const Table &table, int byte)
 }
 
 } // namespace
-
-void Values::read(bool &value)
-{
-    value = byte() & 1;
-}
 
 void Values::read(int &value)
 {
@@ -131,18 +106,6 @@ void Values::read(QBrush &value)
         value = QBrush(take<QColor>(), Qt::BrushStyle(below(Qt::DiagCrossPattern + 1)));
 }
 
-void Values::read(QPoint &value)
-{
-    value.setX(take<int>());
-    value.setY(take<int>());
-}
-
-void Values::read(QSize &value)
-{
-    value.setWidth(take<int>());
-    value.setHeight(take<int>());
-}
-
 void Values::read(QRect &value)
 {
     // Beyond these bounds QRect itself overflows as soon as it is asked for its width.
@@ -165,52 +128,15 @@ void Values::read(QFont &value)
     value.setItalic(take<bool>());
 }
 
-// Enums without a fixed type hold no more than their bits.
-
-void Values::read(Qt::CheckState &value)
-{
-    value = Qt::CheckState(below(4));
-}
-
 void Values::read(Qt::TextFlag &value)
 {
     const int high = byte();
     value = Qt::TextFlag((high << 12 | byte() << 4) & 0xfffff);
 }
 
-void Values::read(ZIRVOUI::ZBaseDialog::RadiusType &value)
-{
-    value = ZIRVOUI::ZBaseDialog::RadiusType(take<int>());
-}
-
-void Values::read(ZIRVOUI::ScrollDirection &value)
-{
-    value = ZIRVOUI::ScrollDirection(below(4) ? below(2) : take<int>());
-}
-
-void Values::read(ToastType &value)
-{
-    value = ToastType(below(4) ? below(4) : take<int>());
-}
-
 QString Values::path()
 {
     return Samples::paths().at(below(Samples::paths().size()));
-}
-
-// QWidget::width() itself overflows in a widget that is further away, or larger by a negative size.
-template <typename Extent>
-Extent Values::near()
-{
-    constexpr int Furthest = 1 << 25;
-    const int x = qBound(-Furthest, take<int>(), Furthest);
-    return {x, qBound(-Furthest, take<int>(), Furthest)};
-}
-
-QRect Values::geometry()
-{
-    const QPoint corner = near<QPoint>();
-    return {corner, near<QSize>()};
 }
 
 QVariant Values::variant(int type)
