@@ -1,5 +1,3 @@
-#include "damage.h"
-
 #include "samples.h"
 
 #include <random>
@@ -13,7 +11,7 @@ constexpr int DeepHtml = 500;
 constexpr int DeepTables = 8;
 constexpr int HugeSide = 50000; // 2.5 thousand million pixels
 
-QByteArray damaged(QByteArray bytes, unsigned seed)
+QByteArray spoilt(QByteArray bytes, unsigned seed)
 {
     std::minstd_rand random(seed);
     for (int i = 1 + int(random() % 4); i > 0; --i) {
@@ -80,7 +78,7 @@ QByteArray doublingEntities()
     return "<!DOCTYPE svg [" + entities + "]>" + svgOf("", "<text>&e29;</text>");
 }
 
-std::vector<DamagedFile> tricks()
+std::vector<Samples::File> tricks()
 {
     const QByteArray rect = "<rect width='9' height='9'/>";
     const QByteArray selfUse = "<g id='a'><use xlink:href='#a'/></g>";
@@ -116,18 +114,17 @@ std::vector<DamagedFile> tricks()
 
 } // namespace
 
-std::vector<DamagedFile> damagedFiles()
+std::vector<Samples::File> Samples::damaged()
 {
-    std::vector<DamagedFile> files = tricks();
-    const std::vector<DamagedFile> samples = {{"svg", Samples::svg()},
-                                              {"svgz", Samples::zipped(Samples::svg())},
-                                              {"png", Samples::png()},
-                                              {"gif", Samples::gif()},
-                                              {"html", Samples::html()}};
-    for (const DamagedFile &sample : samples) {
+    std::vector<File> files = tricks();
+    const std::vector<File> samples = {{".svg", svg()},
+                                       {".svgz", zipped(svg())},
+                                       {".png", png()},
+                                       {".gif", gif()},
+                                       {".html", html()}};
+    for (const File &file : samples) {
         for (int i = 1; i <= Variants; ++i)
-            files.push_back(
-                {QByteArray::number(i) + "." + sample.name, damaged(sample.bytes, unsigned(i))});
+            files.push_back({QByteArray::number(i) + file.name, spoilt(file.bytes, unsigned(i))});
     }
     return files;
 }

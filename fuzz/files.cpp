@@ -3,7 +3,6 @@
 
 #include "circlebutton.h"
 #include "commonlabelwidget.h"
-#include "damage.h"
 #include "imageswitchbutton.h"
 #include "samples.h"
 #include "sequence.h"
@@ -144,7 +143,7 @@ const QByteArray BarePaths[] = {
 std::vector<Hazard> hazards()
 {
     std::vector<Hazard> all;
-    for (const DamagedFile &file : damagedFiles())
+    for (const Samples::File &file : Samples::damaged())
         all.push_back({file.name, [file](auto &path) { Samples::write(path, file.bytes); }});
     for (const Special &special : Specials) {
         const auto put = [special](const QString &path) {

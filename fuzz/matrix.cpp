@@ -7,6 +7,7 @@
 
 #include <QImage>
 #include <QMetaMethod>
+#include <array>
 #include <cstdio>
 
 namespace {
@@ -14,22 +15,19 @@ namespace {
 constexpr int Tours = 6; // each with other arguments
 constexpr int LongPress = 600; // ms
 
-/*! Bytes that make mostly harmless arguments, others for each tour. */
-struct Arguments
-{
-    explicit Arguments(int tour)
-    {
-        constexpr int Least = 48;
-        constexpr int Most = 144;
-        constexpr int Steps[] = {0, 1, 7, 13, 29, 41};
-        for (int i = 0; i < int(std::size(bytes)); ++i)
-            bytes[i]
-                = static_cast<unsigned char>(Least + (tour + i * Steps[tour]) % (Most - Least));
-    }
-    Values values() const { return {bytes, std::size(bytes)}; }
+using Bytes = std::array<unsigned char, 64>;
 
-    unsigned char bytes[64];
-};
+// They make mostly harmless arguments, others for each tour.
+Bytes bytesOf(int tour)
+{
+    constexpr int Least = 48;
+    constexpr int Most = 144;
+    constexpr int Strides[] = {0, 1, 7, 13, 29, 41};
+    Bytes bytes = {};
+    for (int i = 0; i < int(bytes.size()); ++i)
+        bytes[size_t(i)] = uchar(Least + (tour + i * Strides[tour]) % (Most - Least));
+    return bytes;
+}
 
 Step handlerOf(const Happening &happening)
 {
@@ -63,12 +61,13 @@ std::vector<Step> handlersOf(const Subject &subject)
     return handlers;
 }
 
-void tour(Trial &trial, const std::vector<Step> &handlers, const Arguments &arguments)
+// Each handler begins with the same values.
+void tour(Trial &trial, const std::vector<Step> &handlers, const Values &start)
 {
     for (const Step &handler : handlers) {
         if (!trial.widget)
             return;
-        Values values = arguments.values();
+        Values values = start;
         handler(trial, values);
     }
     VirtualTime::settle();
@@ -90,14 +89,15 @@ void meetSignal(const Subject &subject, const QMetaMethod &signal, Tally &tally)
     for (const Reaction &reaction : reactions()) {
         bool hasMet = false;
         for (int i = 0; i < Tours; ++i) {
-            const Arguments arguments(i);
-            Values values = arguments.values();
+            const Bytes bytes = bytesOf(i);
+            const Values start(bytes.data(), bytes.size());
+            Values values = start;
             Trial trial(subject, values);
             trial.widget->show();
             trial.arm(reaction, signal.methodIndex(), values);
-            tour(trial, handlers, arguments);
-            wasEmitted |= trial.emissions().at(signal.methodIndex()) > 0;
-            hasMet |= !trial.isArmed();
+            tour(trial, handlers, start);
+            wasEmitted |= trial.emissions.at(signal.methodIndex()) > 0;
+            hasMet |= !trial.armed;
         }
         ++(hasMet ? tally.met : tally.unmet);
     }
@@ -107,15 +107,16 @@ void meetSignal(const Subject &subject, const QMetaMethod &signal, Tally &tally)
 
 void meetHandlers(const Subject &subject, Tally &tally)
 {
+    const Bytes bytes = bytesOf(1);
+    const Values start(bytes.data(), bytes.size());
     for (const Step &handler : handlersOf(subject)) {
         for (const Reaction &reaction : reactions()) {
-            const Arguments arguments(1);
-            Values values = arguments.values();
+            Values values = start;
             Trial trial(subject, values);
             handler(trial, values);
             if (trial.widget)
                 reaction.run(trial, values);
-            tour(trial, {handler, paint, passTime, paint}, arguments);
+            tour(trial, {handler, paint, passTime, paint}, start);
             ++tally.handlers;
         }
     }

@@ -1,20 +1,10 @@
 #include "samples.h"
 
 #include <QBuffer>
+#include <QDataStream>
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
-#include <array>
-
-namespace {
-
-void appendLittleEndian(QByteArray &bytes, quint32 value, int count)
-{
-    for (int i = 0; i < count; ++i)
-        bytes.append(char(value >> (8 * i)));
-}
-
-} // namespace
 
 quint32 Samples::crc32(const QByteArray &bytes)
 {
@@ -77,11 +67,11 @@ QByteArray Samples::zipped(const QByteArray &bytes)
 {
     QByteArray result = QByteArray::fromHex("1f8b0800000000000003"
                                             "01");
-    appendLittleEndian(result, quint32(bytes.size()), 2);
-    appendLittleEndian(result, ~quint32(bytes.size()), 2);
-    result += bytes;
-    appendLittleEndian(result, crc32(bytes), 4);
-    appendLittleEndian(result, quint32(bytes.size()), 4);
+    QDataStream stream(&result, QIODevice::Append);
+    stream.setByteOrder(QDataStream::LittleEndian);
+    stream << quint16(bytes.size()) << quint16(~bytes.size());
+    stream.writeRawData(bytes.constData(), bytes.size());
+    stream << crc32(bytes) << quint32(bytes.size());
     return result;
 }
 
@@ -96,18 +86,14 @@ const QStringList &Samples::paths()
 {
     static const QTemporaryDir folder;
     static const QStringList paths = [] {
-        const std::array<std::pair<const char *, QByteArray>, 6> files = {{
-            {"a.svg", svg()},
-            {"a.svgz", zipped(svg())},
-            {"a.png", png()},
-            {"a.gif", gif()},
-            {"cut.svg", svg().left(200)},
-            {"svg.png", svg()},
-        }};
+        const std::vector<File> files = {
+            {"a.svg", svg()}, {"a.svgz", zipped(svg())},    {"a.png", png()},
+            {"a.gif", gif()}, {"cut.svg", svg().left(200)}, {"svg.png", svg()},
+        };
         QStringList written = {{}, folder.path(), folder.filePath("missing.svg")};
-        for (const auto &[name, bytes] : files) {
-            written.append(folder.filePath(name));
-            write(written.last(), bytes);
+        for (const File &file : files) {
+            written.append(folder.filePath(file.name));
+            write(written.last(), file.bytes);
         }
         return written;
     }();

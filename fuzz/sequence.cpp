@@ -78,17 +78,27 @@ void paint(Trial &trial, Values &values)
     pictureOf(*trial.widget, Ratios[values.below(int(std::size(Ratios)))]);
 }
 
-void repaint(Trial &trial, Values &)
-{
-    trial.widget->repaint();
-}
-
 void passTime(Trial &, Values &values)
 {
     constexpr int MostTimers = 40;
     constexpr int LongTimes[] = {1000, 3000, 60000, 86400000};
     const int time = values.byte();
     Stage::time().pass(time < 250 ? time : LongTimes[time % 4], MostTimers);
+}
+
+// A window of millions by millions of pixels has no paint engine, which Qt tells with a warning.
+void keepPaintable(Trial &trial)
+{
+    constexpr qint64 MostPixels = 4096 * 4096;
+    if (!trial.widget || !trial.widget->isWindow())
+        return;
+    if (qint64(trial.widget->width()) * trial.widget->height() > MostPixels)
+        trial.widget->setParent(Stage::window());
+}
+
+void repaint(Trial &trial, Values &)
+{
+    trial.widget->repaint();
 }
 
 void settle(Trial &, Values &)
@@ -105,16 +115,6 @@ void armReaction(Trial &trial, Values &values)
 {
     const Reaction &reaction = values.oneOf(reactions());
     trial.arm(reaction, -1, values);
-}
-
-// A window of millions by millions of pixels has no paint engine, which Qt tells with a warning.
-void keepPaintable(Trial &trial)
-{
-    constexpr qint64 MostPixels = 4096 * 4096;
-    if (!trial.widget || !trial.widget->isWindow())
-        return;
-    if (qint64(trial.widget->width()) * trial.widget->height() > MostPixels)
-        trial.widget->setParent(Stage::window());
 }
 
 // What belongs to the library stands more often.

@@ -36,7 +36,7 @@ QString stateOf(const Trial &trial)
 {
     QString text;
     QDebug debug(&text);
-    debug << trial.emissions();
+    debug << trial.emissions;
     if (!trial.widget)
         return text;
     debug << trial.widget->sizeHint() << trial.widget->minimumSizeHint();

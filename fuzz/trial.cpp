@@ -45,17 +45,15 @@ const std::vector<Reaction> &reactions()
 class Trial::Spy : public QObject
 {
 public:
-    Spy(Trial &trial, QWidget &watched)
+    explicit Spy(Trial &trial)
         : m_trial(trial)
-        , emissions(watched.metaObject()->methodCount())
     {
-        const QMetaObject &type = *watched.metaObject();
-        const int firstOwn = metaObject()->methodCount();
+        const QMetaObject &type = *trial.widget->metaObject();
         for (int i = 0; i < type.methodCount(); ++i) {
             // When destroyed() comes, the widget is none any more.
             if (type.method(i).methodType() == QMetaMethod::Signal
                 && type.method(i).name() != "destroyed")
-                QMetaObject::connect(&watched, i, this, firstOwn + i);
+                QMetaObject::connect(trial.widget, i, this, metaObject()->methodCount() + i);
         }
     }
 
@@ -64,21 +62,12 @@ public:
         id = QObject::qt_metacall(call, id, arguments);
         if (id < 0 || call != QMetaObject::InvokeMetaMethod)
             return id;
-        ++emissions[id];
-        const bool isAwaited = armed && (awaited < 0 || awaited == id);
-        if (isAwaited && (!armed->destroys || m_trial.mayDieIn(id)))
-            std::exchange(armed, nullptr)->run(m_trial, values);
+        m_trial.notice(id);
         return -1;
     }
 
 private:
     Trial &m_trial;
-
-public:
-    QVector<int> emissions;
-    const Reaction *armed = nullptr;
-    int awaited = -1;
-    Values values = {nullptr, 0};
 };
 
 Trial::Trial(const Subject &tested, Values &values)
@@ -89,7 +78,8 @@ Trial::Trial(const Subject &tested, Values &values)
     home->resize(2 * Side, 2 * Side);
     widget = subject.make(values, home);
     widget->resize(Side, Side / 2);
-    m_spy = std::make_unique<Spy>(*this, *widget);
+    emissions.resize(widget->metaObject()->methodCount());
+    m_spy = std::make_unique<Spy>(*this);
     home->show();
     widget->setVisible(values.below(4) != 0);
 }
@@ -116,9 +106,17 @@ void Trial::callOwn(Values &values)
 
 void Trial::arm(const Reaction &reaction, int signal, const Values &values)
 {
-    m_spy->armed = &reaction;
-    m_spy->awaited = signal;
-    m_spy->values = values;
+    armed = &reaction;
+    m_awaited = signal;
+    m_values = values;
+}
+
+void Trial::notice(int signal)
+{
+    ++emissions[signal];
+    const bool isAwaited = armed && (m_awaited < 0 || m_awaited == signal);
+    if (isAwaited && (!armed->destroys || mayDieIn(signal)))
+        std::exchange(armed, nullptr)->run(*this, m_values);
 }
 
 bool Trial::mayDieIn(int signal) const
@@ -129,14 +127,4 @@ bool Trial::mayDieIn(int signal) const
     if (isOfQt)
         return origin == Origin::Pointer && isGuarded;
     return origin != Origin::Stock;
-}
-
-const QVector<int> &Trial::emissions() const
-{
-    return m_spy->emissions;
-}
-
-bool Trial::isArmed() const
-{
-    return m_spy->armed;
 }

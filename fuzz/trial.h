@@ -49,6 +49,8 @@ public:
     QPointer<QWidget> home;
     QPointer<QWidget> widget; // null once it is deleted
     Origin origin = Origin::Event; // of what is happening to the widget
+    QVector<int> emissions; // of each signal, by its index in the meta-object
+    const Reaction *armed = nullptr; // that has yet to come
 
     /*! Lets something happen to the widget or to one of its parts. */
     void meet(const Happening &happening, QWidget &target, Values &values);
@@ -63,14 +65,14 @@ public:
      * pointer that causes them.
      */
     bool mayDieIn(int signal) const;
-    /*! Whether the reaction has yet to come. */
-    bool isArmed() const;
-    /*! How often each signal was emitted, by its index in the meta-object. */
-    const QVector<int> &emissions() const;
 
 private:
     class Spy;
+    void notice(int signal);
+
     std::unique_ptr<Spy> m_spy;
+    int m_awaited = -1;
+    Values m_values = {nullptr, 0};
 };
 
 #endif

@@ -5,9 +5,7 @@
 #include <QTimerEvent>
 #include <QVariantAnimation>
 #include <algorithm>
-#include <cstdlib>
-
-void (*VirtualTime::stuck)() = std::abort;
+#include <limits>
 
 class AnimationClock : public QAnimationDriver
 {
@@ -53,21 +51,14 @@ void VirtualTime::pass(int ms, int mostTimers)
     settle();
 }
 
-const VirtualTime::Timer *VirtualTime::nextTimer() const
+bool VirtualTime::fireNext(qint64 until)
 {
     const auto isEarlier = [](const Timer &a, const Timer &b) { return a.due < b.due; };
     const auto next = std::min_element(m_timers.begin(), m_timers.end(), isEarlier);
-    return next == m_timers.end() ? nullptr : &*next;
-}
-
-bool VirtualTime::fireNext(qint64 until)
-{
-    const Timer *next = nextTimer();
-    if (!next || next->due > until)
+    if (next == m_timers.end() || next->due > until)
         return false;
     m_now = qMax(m_now, next->due);
-    const int index = int(next - m_timers.constData());
-    m_timers[index].due = m_now + qMax(1, next->interval); // time goes on though an interval is 0
+    next->due = m_now + qMax(1, next->interval); // time goes on though an interval is 0
     QTimerEvent event(next->id);
     QCoreApplication::sendEvent(next->object, &event);
     return true;
@@ -80,11 +71,8 @@ bool VirtualTime::processEvents(QEventLoop::ProcessEventsFlags flags)
     QCoreApplication::sendPostedEvents();
     if (wasAwake || !flags.testFlag(QEventLoop::WaitForMoreEvents))
         return wasAwake;
-    const Timer *next = nextTimer();
-    if (next)
-        fireNext(next->due);
-    else
-        stuck();
+    if (!fireNext(std::numeric_limits<qint64>::max()))
+        qFatal("an event loop waits, and nothing will ever happen in it");
     return true;
 }
 
@@ -93,20 +81,23 @@ void VirtualTime::registerTimer(int id, int interval, Qt::TimerType type, QObjec
     m_timers.append({id, interval, type, object, m_now + interval});
 }
 
-bool VirtualTime::unregisterTimer(int id)
+template <typename Predicate>
+bool VirtualTime::removeIf(Predicate isUnwanted)
 {
-    const auto isIt = [id](const Timer &timer) { return timer.id == id; };
-    const auto kept = std::remove_if(m_timers.begin(), m_timers.end(), isIt);
+    const auto kept = std::remove_if(m_timers.begin(), m_timers.end(), isUnwanted);
     const bool found = kept != m_timers.end();
     m_timers.erase(kept, m_timers.end());
     return found;
 }
 
+bool VirtualTime::unregisterTimer(int id)
+{
+    return removeIf([id](const Timer &timer) { return timer.id == id; });
+}
+
 bool VirtualTime::unregisterTimers(QObject *object)
 {
-    const auto isIts = [object](const Timer &timer) { return timer.object == object; };
-    m_timers.erase(std::remove_if(m_timers.begin(), m_timers.end(), isIts), m_timers.end());
-    return true;
+    return removeIf([object](const Timer &timer) { return timer.object == object; });
 }
 
 QList<QAbstractEventDispatcher::TimerInfo> VirtualTime::registeredTimers(QObject *object) const

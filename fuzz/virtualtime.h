@@ -13,9 +13,6 @@
 class VirtualTime : public QAbstractEventDispatcher
 {
 public:
-    /*! A nested event loop waits, and nothing will ever happen in it. */
-    static void (*stuck)();
-
     qint64 now() const { return m_now; }
     /*! Lets \a ms milliseconds pass, or less after \a mostTimers timeouts. */
     void pass(int ms, int mostTimers);
@@ -47,8 +44,9 @@ private:
         qint64 due;
     };
 
-    const Timer *nextTimer() const;
     bool fireNext(qint64 until);
+    template <typename Predicate>
+    bool removeIf(Predicate isUnwanted);
 
     QVector<Timer> m_timers;
     qint64 m_now = 0;
