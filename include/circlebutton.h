@@ -29,8 +29,9 @@ class ZCOMMONWIDGETS_EXPORT CircleButton : public QPushButton
 
 public:
     /*!
-     * A transparent button with the SVG at \a path as its icon, at the natural size of that file;
-     * a file that cannot be read gives an icon of no size.  See ZSvgWidget::loadSvgImage().
+     * A transparent button with the SVG at \a path as its icon, at the natural size of that file.
+     * A bitmap, or a file that cannot be read, gives an icon of no size, which nothing changes
+     * later.  See ZSvgWidget::loadSvgImage().
      *
      * It cannot be checked.  A click gives it the focus, the Tab key does not.
      */
@@ -53,7 +54,10 @@ public:
     void setLongPressRepeat(bool repeat);
     /*! The milliseconds from a press to the first report, 0 by default and at least. */
     void setLongPressDelayMS(int ms);
-    /*! The milliseconds between two reports, 0 by default and at least. */
+    /*!
+     * The milliseconds between two reports, 0 by default and at least: then they come as fast as
+     * the event loop turns, so set it before repeating.
+     */
     void setLongPressIntervalMS(int ms);
 
     /*! The height of the font in pixels, and repaints; 0 and less leave the size as it is. */

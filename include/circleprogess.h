@@ -15,9 +15,10 @@ class KeptShape;
  * A ring that fills clockwise from 12 o'clock: a disc, a slice over it as large as the value is far
  * from the minimum to the maximum, and a smaller disc that hollows out the middle.
  *
- * The figure is as large as the widget allows and sits in its top-left corner.  Its three brushes
- * are empty by default, so that nothing is drawn.  Nothing is limited: a value beyond the range
- * draws a slice beyond the full arc, one below it a slice the other way.
+ * The figure is as large as the widget allows and sits in its top-left corner; it asks a layout for
+ * no size: give it one.  Its three brushes are empty by default, so that nothing is drawn.  Nothing
+ * is limited: a value beyond the range draws a slice beyond the full arc, one below it a slice the
+ * other way.
  *
  * Every setter but setValue() only stores: call update() to show a change.
  */

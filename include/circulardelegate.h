@@ -22,7 +22,7 @@ class ZCOMMONWIDGETS_EXPORT CircularDelegate : public QObject
 
 public:
     /*!
-     * \a widget owns the delegate, which does not live without it.
+     * \a widget, which must not be null, owns the delegate.
      *
      * Every CircularLoadingWidget has made its own, findChild() finds it; it does not paint the
      * values of another.

@@ -14,7 +14,8 @@ class CircularDelegate;
  * An endless spinner: an arc that grows, shrinks and travels on a turning circle, every 2.05
  * seconds, from construction to destruction.
  *
- * It takes all the space it gets.  A hidden spinner keeps time without painting.
+ * It takes all the space that a layout has, but asks for none: give it a size where other widgets
+ * want that space too.  A hidden spinner keeps time without painting.
  */
 class ZCOMMONWIDGETS_EXPORT CircularLoadingWidget : public QWidget
 {
@@ -28,8 +29,8 @@ public:
     ~CircularLoadingWidget() override;
 
     /*!
-     * The width of arc and track in pixels, 24 by default; the setter repaints.  A width that is
-     * negative, or 32768 and more, draws a line of one pixel; one that is not finite draws nothing.
+     * The width of arc and track in pixels, 24 by default; the setter repaints.  A width of 0 and
+     * less, or of 32768 and more, draws a line of one pixel; one that is not finite draws nothing.
      */
     double lineWidth() const;
     void setLineWidth(double width);

@@ -42,8 +42,8 @@ public:
     void setTextVisible(bool visible);
 
     /*!
-     * Fixes the size of the icon's label.  Until the first size other than 20 × 20 the layout
-     * decides it.
+     * Fixes the size of the icon's label, in pixels.  Until the first size other than 20 × 20 the
+     * layout decides it.
      */
     void setIconSize(const QSize &size);
     /*!

@@ -15,6 +15,7 @@ namespace ZIRVOUI {
  * to the right, every 1.2 seconds, from construction to destruction.
  *
  * The way is 1200 pixels whatever the widget's width.  A hidden strip keeps time without painting.
+ * It asks a layout for no size: give it a height.
  */
 class ZCOMMONWIDGETS_EXPORT HProgressAnime : public QWidget
 {

@@ -15,9 +15,9 @@ namespace ZIRVOUI {
  * An endless spinner: a ring in a conical gradient with a round head, turning clockwise by 2
  * degrees every 6 milliseconds from its construction on.
  *
- * It is as large as the widget allows, in its middle.  It is painted once in 16 milliseconds at
- * most, at the same time as all other spinners of its window.  A hidden spinner keeps turning
- * without painting.
+ * It is as large as the widget allows, in its middle; it asks a layout for no size: give it one.
+ * It is painted once in 16 milliseconds at most, at the same time as all other spinners of its
+ * window.  A hidden spinner keeps turning without painting.
  */
 class ZCOMMONWIDGETS_EXPORT LoadingWidget : public QWidget
 {

@@ -13,7 +13,7 @@ class KeptShape;
 
 /*!
  * A horizontal bar that is filled from the left as far as its value is on the way from the minimum
- * to the maximum.  It draws no text.
+ * to the maximum.  It draws no text, and asks a layout for no size: give it a height.
  *
  * Every setter but setValue(int) only stores, the property m_curValue included: call update() to
  * show a change.
@@ -70,10 +70,15 @@ public Q_SLOTS:
     void setValue(int value);
     /*! Stored for the application; nothing is drawn by it.  False by default. */
     void setPercent(bool percent);
-    /*! The pixels that a full bar lacks at its right, halved; 0 by default, less lengthens it. */
+    /*!
+     * A full bar ends twice these pixels before the right edge; 0 by default, a negative padding
+     * lengthens it.
+     */
     void setPadding(int padding);
-    /*! The corner radius of background and fill in pixels, 0 by default; Qt limits it to half of
-     * each. */
+    /*!
+     * The corner radius of background and fill in pixels, 0 by default; less is square too, and
+     * half of the height or width of each is the most.
+     */
     void setRadius(int radius);
     /*! The fill, solid blue by default.  An empty brush leaves it to the value colour. */
     void setValueBrush(const QBrush &valueBrush);
@@ -81,9 +86,9 @@ public Q_SLOTS:
     void setValueColor(const QColor &valueColor);
     /*! Dark gray by default. */
     void setBgColor(const QColor &bgColor);
-    /*! Stored for the application; nothing is drawn in it. */
+    /*! Stored for the application; nothing is drawn in it.  Invalid by default. */
     void setTipColor(const QColor &tipColor);
-    /*! Stored for the application; nothing is drawn in it. */
+    /*! Stored for the application; nothing is drawn in it.  Invalid by default. */
     void setTextColor(const QColor &textColor);
 
 protected:

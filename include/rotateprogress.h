@@ -15,7 +15,8 @@ namespace ZIRVOUI {
  * seconds, then the figure bursts and leaves a golden glow until it is stopped.
  *
  * The figure is 400 pixels across at rest and bursts beyond that; the widget's size only cuts it
- * and sets the width of the glow.  Nothing is drawn before it is started.
+ * and sets the width of the glow.  It asks a layout for no size: give it one.  Nothing is drawn
+ * before it is started.
  */
 class ZCOMMONWIDGETS_EXPORT RotateProgress : public QWidget
 {

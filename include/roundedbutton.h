@@ -19,8 +19,8 @@ class StretchedPicture;
  * optional border and centred text.
  *
  * The background is the palette's Window colour and the text its WindowText colour.  A disabled
- * button is filled with the gray of its colour, one that is down with a lighter colour.  An icon is
- * not drawn.
+ * button is filled with the gray of its colour, one that is down with a lighter colour; a picture
+ * stays as it is.  An icon is not drawn, and neither a check nor the focus is seen.
  *
  * The button's own signals report every mouse button, and come before released() and clicked() of
  * the base class.  A slot of any signal may delete the button.
@@ -37,7 +37,10 @@ public:
     /*! The radius of all corners in pixels, 0 by default, not limited.  Repaints if it is new. */
     void setRadius(int radius);
     int radius();
-    /*! Sets the palette's Window brush in all colour groups; its colour alone is drawn. */
+    /*!
+     * Sets the palette's Window brush in all colour groups, and repaints.  Of a gradient or a
+     * pattern only the brush's colour is drawn.
+     */
     void setBackgroundColor(const QBrush &brush);
     /*!
      * A picture stretched over the button in place of its colour, null for none.  Repaints unless
@@ -50,7 +53,7 @@ public:
     void setBorderColor(QColor color);
     /*! The height of the font in pixels, and repaints; 0 and less leave the size as it is. */
     void setFontSize(int size);
-    /*! Sets the palette's WindowText brush in all colour groups. */
+    /*! Sets the palette's WindowText brush in all colour groups, and repaints. */
     void setFontColor(QColor color);
 
 Q_SIGNALS:

@@ -61,7 +61,10 @@ public:
 
     /*! Pixels on each side, 8 by default.  A negative width draws no shadow and a larger body. */
     void setShadowEffectWidth(const int &width);
-    /*! The shadow at the body's edge, black at alpha 120 by default; it fades outwards. */
+    /*!
+     * The shadow at the body's edge, black at alpha 120 by default.  It fades outwards by whole
+     * steps of alpha: one that is wider in pixels than its alpha does not fade.
+     */
     void setShadowEffectColor(const QColor &color);
     /*! The body, opaque RGB (60, 60, 68) by default. */
     void setBackGroundColor(const QColor &color);
@@ -73,7 +76,7 @@ public:
     /*!
      * Installs \a layout within a margin of the shadow's width.  The dialog takes ownership.
      *
-     * A dialog that has a layout keeps it, and \a layout stays the caller's.
+     * A dialog that has a layout keeps it, and \a layout stays the caller's.  Null does nothing.
      */
     void setLayout(QLayout *layout);
     /*! The size of the body, in pixels; the widget is larger by the shadow. */

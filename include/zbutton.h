@@ -16,7 +16,7 @@ struct ZButtonPrivate;
  *
  * A press that moves more than 20 pixels up or down, the button moving along or not, or leaves the
  * button, has become a drag: its release neither clicks nor emits released().  A disabled button is
- * drawn at 30 %, one that is down at 60 %.
+ * drawn at 30 %, one that is down at 60 %.  Neither a check nor the focus is seen.
  *
  * The setters of colours and radius only store: set them before the button is shown, or call
  * update().
@@ -36,7 +36,10 @@ public:
     void setBackgroundColor(const QColor &color);
     /*! The text's colour, white by default. */
     void setFontColor(const QColor &color);
-    /*! The corner radius in pixels, 10 by default, from 0 (square) to half the button's size. */
+    /*!
+     * The corner radius in pixels, 10 by default, from 0 (square) to half the button's width or
+     * height; what lies beyond counts as the nearer of the two.
+     */
     void setRadius(const int &radius);
     /*! The height of the font in pixels, and repaints; 0 and less leave the size as it is. */
     void setFontSize(int size);

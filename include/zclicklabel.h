@@ -58,10 +58,12 @@ public:
      * A file stretched over the whole label: an SVG if \a path contains ".svg" in any case, else
      * a bitmap, which becomes the picture.
      *
-     * An SVG is drawn over the picture, and neither takes the other's place.  The file of an SVG
-     * is read at every paint, so a rewritten file shows at the next one.  A file that cannot be
-     * read draws nothing, nor does a pipe, a device or a bitmap of more than 64 million pixels.
-     * The path is trusted: a large file costs its reading at every paint.
+     * An SVG is drawn over the picture, and neither takes the other's place: an empty path removes
+     * the picture, but an SVG goes only when another path of one comes, which need not name a file.
+     *
+     * The file of an SVG is read at every paint, so a rewritten file shows at the next one.  A file
+     * that cannot be read draws nothing, nor does a pipe, a device or a bitmap of more than 64
+     * million pixels.  The path is trusted: a large file costs its reading at every paint.
      */
     void setBgPicturePath(const QString &path);
 

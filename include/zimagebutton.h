@@ -18,7 +18,7 @@ class ZSvgWidget;
  *
  * A new tile's rectangles are those it has when it is constructed.  They do not follow its size:
  * set them.  Before it is toggled for the first time the sign shows.  A disabled tile is drawn at
- * 30 %, one that is down at 60 %.
+ * 30 %, one that is down at 60 % but for its sign.
  *
  * Paths are trusted: a large picture costs its reading at every paint, its decoding when it
  * changes.
@@ -37,12 +37,15 @@ public:
                           QWidget *parent = nullptr);
     ~ZImageButton() override;
 
-    /*! Where the text is centred.  Only stores. */
+    /*! Where the text is centred, in pixels from the tile's top-left corner.  Only stores. */
     void setTextRect(const QRect &rect);
-    /*! Where the icon is drawn, stretched.  Only stores. */
+    /*! Where the icon is drawn, stretched, in the same pixels.  Only stores. */
     void setIcoRect(const QRect &rect);
 
-    /*! Loads an SVG, which shows at the next repaint.  Returns whether it could be loaded. */
+    /*!
+     * Loads an SVG, which shows at the next repaint.  Returns whether it could be loaded; if not,
+     * the tile has no icon.
+     */
     bool loadIcoImage(const QString &path);
     /*! See ZSvgWidget::loadSvgImage(). */
     void loadSignImage(const QString &path);

@@ -34,7 +34,7 @@ public:
     void setSpacing(const int &spacing);
     /*!
      * The width of the circle's line in pixels, 2 by default, and what both circles keep clear of
-     * the widget's edge.  With more than 0.8 of the radius no dot is drawn.
+     * the widget's edge.  From 0.4 of the widget's shorter side on no dot is drawn.
      */
     void setThickness(const int &thickness);
     /*! RGB (151, 151, 151) by default. */

@@ -15,7 +15,8 @@ struct ZResizableLabelPrivate;
  *
  * Its preferred size is that of the text in the first box that holds it: 50 pixels higher each, and
  * wider in proportion.  A text that fits into the minimum prefers the minimum, one that fits
- * nowhere the maximum, and so does an empty one.  Markup counts as text there.
+ * nowhere the maximum.  An empty one prefers no width and the height of a line, so that a layout
+ * gives it the minimum.  Markup counts as text there.
  *
  * Text of the format Qt::RichText is drawn as HTML in the application's font, anything else as it
  * stands in the label's font and alignment.  HTML is trusted: what it names is loaded, and its

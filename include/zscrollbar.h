@@ -14,8 +14,8 @@ class KeptShape;
  * A scroll bar that works as a stock one and is placed by the style, and draws itself: a rounded
  * track and a rounded handle that darkens under the pointer, and more so while it is pressed.
  *
- * The whole bar is filled with its palette's window colour first.  Where the style has arrow
- * buttons, they work and are not seen.
+ * The whole bar is filled with its palette's window colour first; one of 4 pixels across or less
+ * shows nothing else.  Where the style has arrow buttons, they work and are not seen.
  */
 class ZCOMMONWIDGETS_EXPORT ZScrollBar : public QScrollBar
 {

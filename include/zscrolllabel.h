@@ -24,6 +24,8 @@ enum ScrollDirection : int {
  * margin and frame play no part.  Whether it fits is decided when the text is set, when the label
  * is resized, and by upateLabelRollingState(); it then starts from its beginning.  Upwards that is
  * decided by the height that it would have if it were wrapped.  A hidden label keeps its place.
+ *
+ * It has no meta object of its own: to qobject_cast(), style sheets and Qt Designer it is a QLabel.
  */
 class ZCOMMONWIDGETS_EXPORT ZScrollLabel : public QLabel
 {
@@ -46,8 +48,9 @@ public:
     /*! ScrollHorizontal by default.  Takes effect with the next decision whether the text fits. */
     void setScrollDirection(ScrollDirection direction);
     /*!
-     * Milliseconds from tick to tick, 10 by default.  A negative interval does not move the text.
-     * Takes effect with the next decision whether the text fits.
+     * Milliseconds from tick to tick, 10 by default.  With 0 it ticks as fast as the event loop
+     * turns, and a negative interval does not move the text.  Takes effect with the next decision
+     * whether the text fits.
      */
     void setTimerMsc(int interval);
     /*!

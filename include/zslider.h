@@ -20,7 +20,7 @@ struct ZSliderPrivate;
  *
  * The handle follows the mouse, assistive tools and this class's setValue(), and nothing else.
  * Keys, the wheel, a new range, the setValue() slot of the base class and a resize leave it where
- * it was: call calcHandlePosition() after any of these, for one when a layout has given the slider
+ * it was: call calcHandlePosition() after any of these, such as when a layout has given the slider
  * its size.
  *
  * The setters of groove and handle only store: set them before the slider is shown, or call
@@ -48,8 +48,9 @@ public:
     /*! The corner radius of the groove in pixels, 0 by default; less is square too. */
     void setGrooveRadius(const int &radius);
     /*!
-     * The height of the groove in pixels, 6 by default; one more if the slider's is odd then.  A
-     * negative one counts as a positive one.
+     * The height of the groove in pixels, 6 by default; a pixel more where the slider's own height
+     * is odd and this even, or the other way round, so that it lies in the middle.  A negative one
+     * counts as a positive one, up to that pixel.
      */
     void setGrooveThickness(const int &thickness);
     /*! The groove left of the handle's centre, RGB (15, 112, 226) by default. */

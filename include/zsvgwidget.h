@@ -39,7 +39,9 @@ public:
      * of a bitmap is read now.  The path is trusted: a large file costs its reading each time.
      */
     void loadSvgImage(const QString &path);
-    /*! Stores a bitmap and repaints.  A loaded SVG keeps being shown instead of it. */
+    /*!
+     * Stores a bitmap, null for none, and repaints.  A loaded SVG keeps being shown instead of it.
+     */
     void setmPixmap(const QPixmap &pixmap);
 
     double opacity() const;
@@ -60,8 +62,9 @@ public:
 
     double rotateAngle() const;
     /*!
-     * Turns the icon about the widget's centre, clockwise and in degrees, and repaints.  An angle
-     * that is not finite turns nothing.
+     * Turns the icon about the widget's centre, clockwise and in degrees, 0 by default, and
+     * repaints.  What is turned out of the widget is not seen.  An angle that is not finite turns
+     * nothing.
      */
     void setRotateAngle(double angle);
 

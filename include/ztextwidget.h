@@ -10,7 +10,7 @@ namespace ZIRVOUI {
 
 /*!
  * An HTML document on a coloured ground, as wide as the widget; what does not fit into its height
- * is not seen.
+ * is not seen.  It asks a layout for no size: give it one.
  *
  * HTML is trusted: what it names is loaded, and its layout takes as long as it takes, once for each
  * new document or width.
