@@ -86,6 +86,19 @@ void imageSwitchButton(QBoxLayout *page)
     //! [ImageSwitchButton]
 }
 
+void namedSwitch(QBoxLayout *page)
+{
+    //! [named switch]
+    auto *sound = new ImageSwitchButton(":/icons/speaker_on.svg", ":/icons/speaker_off.svg");
+    sound->setFixedSize(96, 96);
+    sound->setAccessibleName("Sound, off");
+    QObject::connect(sound, &ImageSwitchButton::signal_clicked, sound, [=](bool open) {
+        sound->setAccessibleName(open ? "Sound, on" : "Sound, off");
+    });
+    page->addWidget(sound);
+    //! [named switch]
+}
+
 void zImageButton(QBoxLayout *page)
 {
     //! [ZImageButton]

@@ -24,6 +24,7 @@ void zButton(QBoxLayout *page);
 void roundedButton(QBoxLayout *page);
 void circleButton(QBoxLayout *page);
 void imageSwitchButton(QBoxLayout *page);
+void namedSwitch(QBoxLayout *page);
 void zImageButton(QBoxLayout *page);
 void zRadioButton(QBoxLayout *page);
 void switchButton(QBoxLayout *page);

@@ -107,6 +107,7 @@ private Q_SLOTS:
         ADD_SNIPPET(roundedButton);
         ADD_SNIPPET(circleButton);
         ADD_SNIPPET(imageSwitchButton);
+        ADD_SNIPPET(namedSwitch);
         ADD_SNIPPET(zImageButton);
         ADD_SNIPPET(zRadioButton);
         ADD_SNIPPET(switchButton);
