@@ -19,7 +19,8 @@ class ZSvgWidget;
  * text behind that, which reports long presses.
  *
  * A disabled button is filled with the gray of its colour, one that is down with a lighter colour.
- * The text is drawn in the palette's WindowText colour.
+ * The text is drawn in the palette's WindowText colour.  Its size hint is a stock button's, neither
+ * round nor as large as the icon: give it a size.
  *
  * A long press does not replace the click.  A slot of any signal may delete the button.
  */

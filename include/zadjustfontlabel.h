@@ -16,6 +16,9 @@ struct ZAdjustFontLabelPrivate;
  * The fit is that of centred text that wraps anywhere, inside words too, whatever the label draws
  * with: text of several lines needs setWordWrap(true) and setTextFlag(Qt::TextWrapAnywhere).  The
  * font is fitted at each paint, but measured only when text, size, range or font have changed.
+ *
+ * A layout takes the size of the text in the present font for the least that the label may have:
+ * setMinimumSize(1, 1) lets it become smaller again.
  */
 class ZCOMMONWIDGETS_EXPORT ZAdjustFontLabel : public ZClickLabel
 {

@@ -77,9 +77,13 @@ public:
      * Installs \a layout within a margin of the shadow's width.  The dialog takes ownership.
      *
      * A dialog that has a layout keeps it, and \a layout stays the caller's.  Null does nothing.
+     * A layout that is constructed with the dialog as its parent has the style's margins instead.
      */
     void setLayout(QLayout *layout);
-    /*! The size of the body, in pixels; the widget is larger by the shadow. */
+    /*!
+     * The size of the body, in pixels; the widget is larger by the shadow, which QWidget's other
+     * functions for its size count in.
+     */
     void setFixedSize(const QSize &size);
     void setFixedSize(int width, int height);
     /*! The width of the body alone, as setFixedSize(). */

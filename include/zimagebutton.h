@@ -16,9 +16,10 @@ class ZSvgWidget;
  * A checkable tile: a rounded, bordered background, an SVG icon and a text in rectangles of the
  * caller's choosing, and a sign in the top-right corner that shows while the tile is checked.
  *
- * A new tile's rectangles are those it has when it is constructed.  They do not follow its size:
- * set them.  Before it is toggled for the first time the sign shows.  A disabled tile is drawn at
- * 30 %, one that is down at 60 % but for its sign.
+ * A new tile's rectangles are those it has when it is constructed.  They do not follow its size,
+ * and its size hint, a stock button's, does not follow them: set them and a size.  Before it is
+ * toggled for the first time the sign shows.  A disabled tile is drawn at 30 %, one that is down at
+ * 60 % but for its sign.
  *
  * Paths are trusted: a large picture costs its reading at every paint, its decoding when it
  * changes.

@@ -24,7 +24,10 @@ class ZCOMMONWIDGETS_EXPORT ZRadioButton : public QRadioButton
     Q_OBJECT
 
 public:
-    /*! In the size of a stock radio button, and exclusive among those of its parent. */
+    /*!
+     * Exclusive among the radio buttons of its parent.  Its size hint is that of a stock one, too
+     * narrow for text: give it a width.
+     */
     explicit ZRadioButton(QWidget *parent = nullptr);
     /*! The same with \a text at its right. */
     explicit ZRadioButton(const QString &text, QWidget *parent = nullptr);

@@ -29,6 +29,7 @@ void zAdjustFontLabel(QBoxLayout *page)
     //! [ZAdjustFontLabel]
     auto *clock = new ZAdjustFontLabel("22:15");
     clock->setAlignment(Qt::AlignCenter);
+    clock->setMinimumSize(1, 1); // it may become smaller again
     clock->setFontSizeRange(12, 160); // the largest that fits, at every size of the label
     page->addWidget(clock, 1);
     //! [ZAdjustFontLabel]
