@@ -45,11 +45,13 @@ CornerRadii cornerRadii(ZBaseDialog::RadiusType type, int r)
     return {0, 0, 0, 0};
 }
 
-// Whether the outline of rect may have a pixel in exposed: it stays within a radius of rect's
-// edges.
-bool mayTouch(const QRect &rect, int radius, const QRect &exposed)
+// How many outlines are passed over at a time if none of them may touch what is exposed.
+constexpr int Leap = 1024;
+
+// Whether an outline that stays so near to rect's edges may have a pixel in exposed.
+bool mayTouch(const QRect &rect, qint64 near, const QRect &exposed)
 {
-    const int margin = int(qMin(qAbs(qint64(radius)), qint64(MaxShadowWidth))) + 2;
+    const int margin = int(qMin(near, qint64(MaxShadowWidth))) + 2;
     const QRect edges = rect.normalized();
     const QRect outer = edges.adjusted(-margin, -margin, margin, margin);
     const QRect inner = edges.adjusted(margin, margin, -margin, -margin);
@@ -155,13 +157,16 @@ void ZBaseDialog::drawShadow(QPainter &painter, const QRect &exposed)
 {
     const int width = qMin(m_shadowWidth, MaxShadowWidth);
     const int fade = m_shadowWidth > 0 ? m_shadowColor.alpha() / m_shadowWidth : 0;
+    const qint64 radius = qAbs(qint64(m_radius));
     QColor color = m_shadowColor;
     painter.setRenderHint(QPainter::Antialiasing);
 
     const auto drawOutlines = [&](int innermost, int outermost) {
         for (int inset = qMin(innermost, width); inset >= outermost; --inset) {
             const QRect outlined = insetRect(inset);
-            if (!mayTouch(outlined, m_radius, exposed))
+            if (!mayTouch(outlined, radius + Leap, exposed))
+                inset -= Leap - 1;
+            if (!mayTouch(outlined, radius, exposed))
                 continue;
             color.setAlpha(m_shadowColor.alpha() - fade * (m_shadowWidth - inset));
             painter.setPen(color);
