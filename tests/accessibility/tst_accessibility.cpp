@@ -28,8 +28,6 @@
 #include <ztextwidget.h>
 #include <ztoastdialog.h>
 
-using namespace ZIRVOUI;
-
 namespace {
 
 QAccessibleInterface &interfaceOf(QWidget &widget)

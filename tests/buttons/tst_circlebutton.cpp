@@ -4,8 +4,6 @@
 #include <tuple>
 #include <zsvgwidget.h>
 
-using namespace ZIRVOUI;
-
 class TestCircleButton : public WidgetTest
 {
     Q_OBJECT

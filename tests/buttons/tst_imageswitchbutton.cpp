@@ -2,8 +2,6 @@
 
 #include <imageswitchbutton.h>
 
-using ZIRVOUI::ImageSwitchButton;
-
 class TestImageSwitchButton : public WidgetTest
 {
     Q_OBJECT

@@ -4,8 +4,6 @@
 #include <switchbutton.h>
 #include <tuple>
 
-using ZIRVOUI::SwitchButton;
-
 /*! The way that the knob was last sent on, such as "0 > 51"; empty if it was not. */
 static QString takeWay(SwitchButton &button)
 {

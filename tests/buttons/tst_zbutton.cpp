@@ -2,8 +2,6 @@
 
 #include <zbutton.h>
 
-using ZIRVOUI::ZButton;
-
 class TestZButton : public WidgetTest
 {
     Q_OBJECT

@@ -4,9 +4,6 @@
 #include <zimagebutton.h>
 #include <zsvgwidget.h>
 
-using ZIRVOUI::ZImageButton;
-using ZIRVOUI::ZSvgWidget;
-
 class TestZImageButton : public WidgetTest
 {
     Q_OBJECT

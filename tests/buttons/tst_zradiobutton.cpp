@@ -2,8 +2,6 @@
 
 #include <zradiobutton.h>
 
-using ZIRVOUI::ZRadioButton;
-
 class TestZRadioButton : public WidgetTest
 {
     Q_OBJECT

@@ -5,9 +5,6 @@
 #include <zclicklabel.h>
 #include <zloadingdialog.h>
 
-using ZIRVOUI::ZClickLabel;
-using ZIRVOUI::ZLoadingDialog;
-
 const QString Text = "Please wait";
 
 class TestZLoadingDialog : public WidgetTest

@@ -5,10 +5,6 @@
 #include <zsvgwidget.h>
 #include <ztoastdialog.h>
 
-using ZIRVOUI::ZClickLabel;
-using ZIRVOUI::ZSvgWidget;
-using ZIRVOUI::ZToastDialog;
-
 const QString Text = "Something went wrong and needs two lines";
 
 class TestZToastDialog : public WidgetTest

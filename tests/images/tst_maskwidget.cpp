@@ -2,8 +2,6 @@
 
 #include <maskwidget.h>
 
-using ZIRVOUI::MaskWidget;
-
 void qt_blurImage(QPainter *painter, QImage &image, qreal radius, bool quality, bool alphaOnly,
                   int transposed);
 

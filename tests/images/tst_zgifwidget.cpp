@@ -3,8 +3,6 @@
 #include <QMovie>
 #include <zgifwidget.h>
 
-using ZIRVOUI::ZGifWidget;
-
 class TestZGifWidget : public WidgetTest
 {
     Q_OBJECT

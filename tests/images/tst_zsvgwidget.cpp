@@ -4,8 +4,6 @@
 #include <QSvgRenderer>
 #include <zsvgwidget.h>
 
-using ZIRVOUI::ZSvgWidget;
-
 class TestZSvgWidget : public WidgetTest
 {
     Q_OBJECT

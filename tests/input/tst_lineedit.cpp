@@ -6,8 +6,6 @@
 #include <ipvalidator.h>
 #include <lineedit.h>
 
-using ZIRVOUI::LineEdit;
-
 namespace {
 
 // The same picture, were all that is seen in it of one colour.

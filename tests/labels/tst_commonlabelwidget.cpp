@@ -4,8 +4,6 @@
 #include <commonlabelwidget.h>
 #include <zclicklabel.h>
 
-using namespace ZIRVOUI;
-
 class TestCommonLabelWidget : public WidgetTest
 {
     Q_OBJECT

@@ -3,8 +3,6 @@
 #include <QTextOption>
 #include <zadjustfontlabel.h>
 
-using namespace ZIRVOUI;
-
 namespace {
 
 // Tries all sizes from the largest to the smallest.

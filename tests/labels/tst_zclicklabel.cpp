@@ -4,8 +4,6 @@
 #include <QSvgRenderer>
 #include <zclicklabel.h>
 
-using ZIRVOUI::ZClickLabel;
-
 class TestZClickLabel : public WidgetTest
 {
     Q_OBJECT

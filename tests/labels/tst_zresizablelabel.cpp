@@ -3,8 +3,6 @@
 #include <QTextDocument>
 #include <zresizablelabel.h>
 
-using ZIRVOUI::ZResizableLabel;
-
 namespace {
 
 // Tries all boxes, one after the other.

@@ -3,8 +3,6 @@
 #include <QAbstractEventDispatcher>
 #include <zscrolllabel.h>
 
-using namespace ZIRVOUI;
-
 namespace {
 
 constexpr int Never = 19000; // ms, what comes later is no CoarseTimer any more

@@ -3,8 +3,6 @@
 #include <QAbstractTextDocumentLayout>
 #include <ztextwidget.h>
 
-using ZIRVOUI::ZTextWidget;
-
 namespace {
 
 const QString Html = "<h2>Title</h2><p>Some <b>words</b> of <i>HTML</i>, more of "

@@ -2,8 +2,6 @@
 
 #include <circleprogess.h>
 
-using ZIRVOUI::CircleProgess;
-
 struct Look
 {
     double max, value, startAngle, progressAngle;

@@ -5,8 +5,6 @@
 #include <circulardelegate.h>
 #include <circularloadingwidget.h>
 
-using namespace ZIRVOUI;
-
 struct Look
 {
     int time; // ms

@@ -3,8 +3,6 @@
 #include <QVariantAnimation>
 #include <hprogressanime.h>
 
-using ZIRVOUI::HProgressAnime;
-
 class TestHProgressAnime : public WidgetTest
 {
     Q_OBJECT

@@ -5,8 +5,6 @@
 #include <QWindow>
 #include <loadingwidget.h>
 
-using ZIRVOUI::LoadingWidget;
-
 class TestLoadingWidget : public WidgetTest
 {
     Q_OBJECT

@@ -2,8 +2,6 @@
 
 #include <progressbar.h>
 
-using ZIRVOUI::ProgressBar;
-
 struct Look
 {
     double min, max, value;

@@ -5,8 +5,6 @@
 #include <cmath>
 #include <rotateprogress.h>
 
-using ZIRVOUI::RotateProgress;
-
 namespace {
 
 /*! The figure at an instant of its turn, which lasts 2800 ms, and of the burst after it. */

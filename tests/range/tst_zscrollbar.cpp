@@ -5,8 +5,6 @@
 #include <QStyleOptionSlider>
 #include <zscrollbar.h>
 
-using ZIRVOUI::ZScrollBar;
-
 namespace {
 
 struct Bar : ZScrollBar

@@ -2,8 +2,6 @@
 
 #include <zslider.h>
 
-using ZIRVOUI::ZSlider;
-
 struct Look
 {
     QSize size;

@@ -12,6 +12,11 @@
 #include <climits>
 #include <limits>
 
+// Where the widgets are.
+namespace ZIRVOUI {
+}
+using namespace ZIRVOUI;
+
 /*! The base of the test of a widget: no warning of Qt's passes. */
 class WidgetTest : public QObject
 {
