@@ -6,8 +6,6 @@
 #include <QAbstractButton>
 #include <QButtonGroup>
 
-constexpr int Huge = std::numeric_limits<int>::max();
-
 /*! The same as comparePictures(), enabled and disabled, up and down. */
 template <typename Draw>
 void compareStates(QAbstractButton &button, std::initializer_list<QSize> sizes, Draw draw)

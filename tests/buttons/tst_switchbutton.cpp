@@ -29,7 +29,7 @@ private Q_SLOTS:
         button.setCheckText("On");
         button.setNoCheckText("Off");
         for (const auto state : {Qt::Unchecked, Qt::PartiallyChecked, Qt::Checked}) {
-            for (const double margin : {8.0, 3.25, qQNaN(), -std::numeric_limits<double>::max()}) {
+            for (const double margin : {8.0, 3.25, qQNaN(), -DBL_MAX}) {
                 const bool off = state == Qt::Unchecked;
                 button.setCheckState(state);
                 takeWay(button);

@@ -115,7 +115,7 @@ private Q_SLOTS:
             button.click();
             QCOMPARE(sign->isVisibleTo(&button), shown);
         }
-        button.setSingSize(-1, Huge);
+        button.setSingSize(-1, INT_MAX);
         QCOMPARE(sign->maximumSize(), QSize(0, QWIDGETSIZE_MAX));
     }
 

@@ -146,7 +146,7 @@ private Q_SLOTS:
         dialog.setFixedSize(QSize(10, 20));
         QCOMPARE(dialog.size(), QSize(26, 36));
         dialog.setShadowEffectWidth(3);
-        dialog.setFixedSize(Huge, -100);
+        dialog.setFixedSize(INT_MAX, -100);
         QCOMPARE(dialog.size(), QSize(QWIDGETSIZE_MAX, 0));
         dialog.setFixedWidth(50);
         dialog.setFixedHeight(40);

@@ -34,7 +34,7 @@ private Q_SLOTS:
         auto *icon = toast.findChild<ZSvgWidget *>();
         auto *label = toast.findChild<ZClickLabel *>();
         QVERIFY(icon->sizeHint().isValid()); // that of its file
-        toast.setIcoSize(-1, std::numeric_limits<int>::max());
+        toast.setIcoSize(-1, INT_MAX);
         QCOMPARE(icon->size(), QSize(0, QWIDGETSIZE_MAX));
         toast.setIcoSize(20, 20);
         toast.setFixedSize(200, 150);

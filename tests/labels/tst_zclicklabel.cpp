@@ -122,7 +122,7 @@ private Q_SLOTS:
         const QFont before = label.font();
         QVERIFY(before.italic() && before.bold() && before.pixelSize() == 21
                 && before.family() == "DejaVu Sans");
-        for (int value : {-1, 4001, std::numeric_limits<int>::min()}) {
+        for (int value : {-1, 4001, INT_MIN}) {
             label.setTextSize(qMin(value, 0));
             label.setFontWeight(value);
             label.setItalic(false, value);

@@ -23,7 +23,7 @@ private Q_SLOTS:
         QTest::newRow("inverted range") << Look{10, -10, 5, 0, 0, 51};
         QTest::newRow("empty range") << Look{7, 7, 9, 0, 0, 0};
         QTest::newRow("no number") << Look{0, 1, qQNaN(), 0, 0, 0};
-        QTest::newRow("huge range") << Look{-Huge, Huge, Huge, 0, 0, 0};
+        QTest::newRow("huge range") << Look{-DBL_MAX, DBL_MAX, DBL_MAX, 0, 0, 0};
         QTest::newRow("huge padding") << Look{0, 2, 1, INT_MIN, 0, INT_MAX};
     }
 
@@ -43,7 +43,7 @@ private Q_SLOTS:
                    {"m_bgColor", ground},         {"m_percent", true},
                    {"m_tipColor", QColor("red")}, {"m_textColor", QColor("red")}};
             QVERIFY(!repaints(bar, [&] {
-                bar.setRange(-Huge, Huge);
+                bar.setRange(-DBL_MAX, DBL_MAX);
                 bar.setValue(look.value);
                 for (auto property = properties.begin(); property != properties.end(); ++property)
                     QVERIFY(bar.setProperty(qPrintable(property.key()), *property));

@@ -9,8 +9,8 @@
 #include "warnings.h"
 
 #include <QtTest>
+#include <cfloat>
 #include <climits>
-#include <limits>
 
 // Where the widgets are.
 namespace ZIRVOUI {
