@@ -70,15 +70,15 @@ private Q_SLOTS:
             arc->setDashOffset(offset);
             return snapshot(spinner);
         };
-        QElapsedTimer timer;
-        timer.start();
-        for (double value : {qQNaN(), qInf(), -qInf(), Huge, -Huge, 1e12, -1e12, 40000.0, 0.0}) {
+        const QDeadlineTimer deadline(3000);
+        for (double value :
+             {qQNaN(), qInf(), -qInf(), DBL_MAX, -DBL_MAX, 1e12, -1e12, 40000.0, 0.0}) {
             draw(value, 3, 3);
             draw(5, 3, value);
             draw(5, value, 3);
             draw(value, value, value);
         }
-        QVERIFY(timer.elapsed() < 3000);
+        QVERIFY(!deadline.hasExpired());
         COMPARE_PICTURES(draw(qQNaN(), 5, 0), blankPicture(spinner.size()));
         COMPARE_PICTURES(draw(5, qInf(), 0), blankPicture(spinner.size()));
 
