@@ -1,4 +1,4 @@
-#include "progresstest.h"
+#include "widgettest.h"
 
 #include <QPainterPath>
 #include <QScreen>
@@ -103,13 +103,9 @@ private Q_SLOTS:
             spinner->move(100 * i, 0);
             QTest::qWait(i); // for its timer to have a phase of its own
         }
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        PaintCounter frames(window);
-        frames.take();
-        QTest::qWait(480); // 30 frames, and 80 ticks of each spinner
-        const int count = frames.take();
-        QVERIFY2(count > 2 && count < 45, qPrintable(QString::number(count)));
+        // In the time of 30 frames, and of 80 ticks of each spinner.
+        const int frames = repaints(window, [] { QTest::qWait(480); });
+        QVERIFY2(frames > 2 && frames < 45, qPrintable(QString::number(frames)));
     }
 };
 

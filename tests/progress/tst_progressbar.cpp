@@ -1,4 +1,4 @@
-#include "progresstest.h"
+#include "widgettest.h"
 
 #include <progressbar.h>
 

@@ -3,8 +3,8 @@
 
 // What the test of a widget is made of.
 #include "finger.h"
-#include "paintcounter.h"
 #include "picture.h"
+#include "repaints.h"
 #include "samplefile.h"
 #include "warnings.h"
 
