@@ -40,13 +40,4 @@ inline bool staysCheckedInItsGroup(QAbstractButton &button)
     return button.isChecked() && toggles == QList<QVariantList>{{true}};
 }
 
-/*! A picture that shows how it was stretched. */
-inline QPixmap spottedPixmap()
-{
-    QPixmap pixmap(7, 5);
-    pixmap.fill(Qt::darkCyan);
-    QPainter(&pixmap).fillRect(1, 1, 4, 2, Qt::yellow);
-    return pixmap;
-}
-
 #endif

@@ -35,8 +35,7 @@ private Q_SLOTS:
 
     void keepsTheSizeOfItsFirstIcon()
     {
-        SampleFile svg("icon.svg");
-        svg.writeSvg("red");
+        const SampleFile svg("icon.svg", sampleSvg("red"));
         CircleButton button(svg.path());
         svg.write("<svg width='50' height='50'/>");
         button.loadSvg(svg.path());

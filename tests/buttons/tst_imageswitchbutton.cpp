@@ -9,9 +9,8 @@ class TestImageSwitchButton : public WidgetTest
 private Q_SLOTS:
     void showsTheIconOfItsState()
     {
-        const SampleFile open("open.svg"), closed("closed.svg");
-        open.writeSvg("lime");
-        closed.writeSvg("red");
+        const SampleFile open("open.svg", sampleSvg("lime"));
+        const SampleFile closed("closed.svg", sampleSvg("red"));
         ImageSwitchButton button(open.path(), closed.path());
         QSignalSpy clicks(&button, &ImageSwitchButton::signal_clicked);
         const auto shown = [&] { return snapshot(button, QSize(20, 10)).pixelColor(1, 1); };

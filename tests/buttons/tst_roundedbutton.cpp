@@ -1,21 +1,7 @@
 #include "buttontest.h"
 
-#include <QPainterPath>
 #include <QPicture>
 #include <roundedbutton.h>
-
-static QPainterPath outline(const QRectF &rect, double r)
-{
-    const QPolygonF points(rect);
-    const QPointF onwards[] = {{r, 0}, {0, r}, {-r, 0}, {0, -r}};
-    QPainterPath path(points[0] - onwards[3]);
-    for (int i = 0; i < 4; ++i) {
-        path.lineTo(points[i] - onwards[(i + 3) % 4]);
-        path.quadTo(points[i], points[i] + onwards[i]);
-    }
-    path.lineTo(path.elementAt(0));
-    return path;
-}
 
 class TestRoundedButton : public WidgetTest
 {
@@ -44,14 +30,14 @@ private Q_SLOTS:
                     const QColor up = button.isEnabled() ? color : QColor(102, 102, 102, 160);
                     const QRect inner = all.adjusted(inset, inset, -inset, -inset);
                     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-                    painter.setClipPath(outline(all, radius));
+                    painter.setClipPath(roundedOutline(all, radius));
                     if (image.isNull())
-                        painter.fillPath(outline(all, radius),
+                        painter.fillPath(roundedOutline(all, radius),
                                          button.isDown() ? color.lighter(130) : up);
                     painter.drawPixmap(all, image);
                     painter.setClipping(false);
                     if (border > 0)
-                        painter.strokePath(outline(inner, radius), pen);
+                        painter.strokePath(roundedOutline(inner, radius), pen);
                     painter.setClipping(true);
                     painter.setPen(Qt::white);
                     painter.drawText(all, Qt::AlignCenter, button.text());

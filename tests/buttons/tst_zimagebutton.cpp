@@ -11,8 +11,7 @@ class TestZImageButton : public WidgetTest
 private Q_SLOTS:
     void paints()
     {
-        const SampleFile svg("icon.svg"), bitmap("ground.png");
-        svg.writeSvg("purple");
+        const SampleFile svg("icon.svg", sampleSvg("purple")), bitmap("ground.png");
         const QPixmap pixmap = spottedPixmap();
         pixmap.save(bitmap.path());
 
@@ -67,7 +66,7 @@ private Q_SLOTS:
         QCOMPARE(shown(), QColor('a', 'b', 'c'));
         file.write("P6 1 1 255 xyz");
         QCOMPARE(shown(), QColor('x', 'y', 'z'));
-        file.writeHugePicture();
+        file.write(hugePicture());
         QCOMPARE(shown(), QColor(Qt::white));
 
         const SampleFile pipe("pipe.ppm");
@@ -78,8 +77,7 @@ private Q_SLOTS:
 
     void drawsItsIconSharp()
     {
-        SampleFile svg("icon.svg");
-        svg.writeSvg("green");
+        const SampleFile svg("icon.svg", sampleSvg("green"));
         ZImageButton button;
         button.resize(20, 10);
         button.setIcoRect(button.rect());
@@ -102,8 +100,7 @@ private Q_SLOTS:
 
     void showsItsSignWhileChecked()
     {
-        SampleFile svg("sign.svg");
-        svg.writeSvg("green");
+        const SampleFile svg("sign.svg", sampleSvg("green"));
         ZImageButton button({}, {}, svg.path());
         auto *sign = button.findChild<ZSvgWidget *>();
         snapshot(button, QSize(100, 60));

@@ -18,22 +18,6 @@ class TestZBaseDialog : public QObject
 {
     Q_OBJECT
 
-    // The letters tell which corners are round, clockwise from the top left.
-    static QPainterPath outline(const QRectF &body, const char *corners, double radius)
-    {
-        const QPolygonF points(body);
-        const QPointF onwards[] = {{1, 0}, {0, 1}, {-1, 0}, {0, -1}};
-        QPainterPath path;
-        for (int i = 0; i < 4; ++i) {
-            const double reach = corners[i] == 'r' ? radius : 0.0;
-            const QPointF start = points[i] - reach * onwards[(i + 3) % 4];
-            i > 0 ? path.lineTo(start) : path.moveTo(start);
-            path.quadTo(points[i], points[i] + reach * onwards[i]);
-        }
-        path.lineTo(path.elementAt(0));
-        return path;
-    }
-
 private Q_SLOTS:
     void initTestCase() { failOnWarnings(); }
 
@@ -72,7 +56,7 @@ private Q_SLOTS:
         for (const QSize size : {QSize(120, 90), QSize(87, 61)}) {
             const auto at = [&](int inset) {
                 const QRectF body = QRectF(QPointF(), size).adjusted(inset, inset, -inset, -inset);
-                return outline(body, corners, look.radius);
+                return roundedOutline(body, look.radius, corners);
             };
             const auto draw = [&](QPainter &painter) {
                 const int step = look.shadow > 0 ? look.color.alpha() / look.shadow : 0;

@@ -7,15 +7,6 @@ class TestZGifWidget : public WidgetTest
 {
     Q_OBJECT
 
-public:
-    TestZGifWidget()
-    {
-        // 4 × 2 pixels of red and of blue, 50 ms each, for ever.
-        m_gif.write(QByteArray::fromBase64(
-            "R0lGODlhBAACAPAAAP8AAAAA/yH5BAQFAAAAIf8LTkVUU0NBUEUyLjADAQAAACwAAAAABAACAAACA4RvBQAh+"
-            "QQEBQAAACwAAAAABAACAAACA4xvBQA7"));
-    }
-
 private Q_SLOTS:
     void plays()
     {
@@ -39,13 +30,12 @@ private Q_SLOTS:
 
     void showsNothingOfABadFile()
     {
-        const SampleFile broken("broken.gif"), huge("huge.png"), pipe("pipe.gif");
-        broken.write("GIF89a");
-        huge.writeHugePicture();
+        const SampleFile missing("missing.gif"), broken("broken.gif", "GIF89a"), pipe("pipe.gif");
+        const SampleFile huge("huge.png", hugePicture());
         pipe.makePipe();
         const QString impossible = QString::fromLatin1("nul\0.gif", 8);
-        for (const QString &path : {broken.path(), huge.path(), pipe.path(), impossible,
-                                    QString("missing.gif"), QString()}) {
+        for (const QString &path :
+             {missing.path(), broken.path(), huge.path(), pipe.path(), impossible, QString()}) {
             ZGifWidget widget(path);
             widget.setSize(20, 20);
             COMPARE_PICTURES(snapshot(widget, {9, 9}), blankPicture({9, 9}));
@@ -66,7 +56,11 @@ private Q_SLOTS:
     }
 
 private:
-    const SampleFile m_gif = SampleFile("sample.gif");
+    // 4 × 2 pixels of red and of blue, 50 ms each, for ever.
+    const QByteArray m_frames = QByteArray::fromBase64(
+        "R0lGODlhBAACAPAAAP8AAAAA/yH5BAQFAAAAIf8LTkVUU0NBUEUyLjADAQAAACwAAAAABAACAAACA4RvBQAh+"
+        "QQEBQAAACwAAAAABAACAAACA4xvBQA7");
+    const SampleFile m_gif{"sample.gif", m_frames};
 };
 
 QTEST_MAIN(TestZGifWidget)

@@ -8,14 +8,6 @@ class TestZSvgWidget : public WidgetTest
 {
     Q_OBJECT
 
-    static QPixmap checkers(const QSize &size)
-    {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::yellow);
-        QPainter(&pixmap).fillRect(pixmap.rect(), QBrush(Qt::blue, Qt::Dense4Pattern));
-        return pixmap;
-    }
-
 private Q_SLOTS:
     void paints_data()
     {
@@ -31,10 +23,9 @@ private Q_SLOTS:
     {
         QFETCH(double, opacity);
         QFETCH(double, angle);
-        const SampleFile file("icon.svg");
-        file.writeSvg("green");
+        const SampleFile file("icon.svg", sampleSvg("green"));
         for (const bool svg : {true, false}) {
-            QPixmap bitmap = checkers({20, 12});
+            QPixmap bitmap = spottedPixmap({20, 12});
             ZSvgWidget widget(svg ? file.path() : QString());
             widget.setmPixmap(bitmap); // which does not replace an SVG
             widget.setDisabled(opacity == 0.0);
@@ -62,20 +53,19 @@ private Q_SLOTS:
 
     void keepsTheSmallestBitmap()
     {
-        const QPixmap pixmap = checkers({40, 20});
+        const QPixmap pixmap = spottedPixmap({40, 20});
         ZSvgWidget widget;
         widget.setmPixmap(pixmap);
         widget.resize(20, 10);
         QImage sharp = snapshot(widget, 2);
         sharp.setDevicePixelRatio(1);
-        const auto draw = [&](auto &painter) { painter.drawPixmap(0, 0, pixmap); };
-        COMPARE_PICTURES(sharp, reference({40, 20}, draw));
+        COMPARE_PICTURES(sharp, pixmap.toImage());
         QCOMPARE(widget.sizeHint(), QSize(20, 10));
 
         snapshot(widget, {2, 1});
         QCOMPARE(widget.sizeHint(), QSize(2, 1));
         const QImage blurred = snapshot(widget, {40, 20});
-        QCOMPARE(blurred.pixel(1, 1), blurred.pixel(2, 2));
+        QCOMPARE(blurred.pixel(1, 0), blurred.pixel(1, 1));
 
         QImage part = blankPicture({9, 9}, 2);
         widget.setFixedSize(8000, 5000); // has too many pixels at that ratio
@@ -85,10 +75,7 @@ private Q_SLOTS:
 
     void showsTheIconLoadedLast()
     {
-        const SampleFile svg("ICON.SVG"), bitmap("icon.ppm");
-        svg.writeSvg("red");
-        bitmap.write("P6 1 1 255 abc");
-
+        const SampleFile svg("ICON.SVG", sampleSvg("red")), bitmap("icon.ppm", "P6 1 1 255 abc");
         ZSvgWidget widget(svg.path());
         widget.resize(20, 10);
         widget.loadSvgImage(bitmap.path());
@@ -117,10 +104,11 @@ private Q_SLOTS:
 
     void showsTheFirstFrameOfAnAnimation()
     {
-        const SampleFile svg("icon.svg");
-        svg.write("<svg xmlns='http://www.w3.org/2000/svg' width='8' height='8'>"
-                  "<rect width='8' height='8' fill='red'><animateColor attributeName='fill' "
-                  "dur='1s' values='#f00;#00f' repeatCount='indefinite'/></rect></svg>");
+        const SampleFile svg(
+            "icon.svg",
+            "<svg xmlns='http://www.w3.org/2000/svg' width='8' height='8'>"
+            "<rect width='8' height='8' fill='red'><animateColor attributeName='fill' "
+            "dur='1s' values='#f00;#00f' repeatCount='indefinite'/></rect></svg>");
         ZSvgWidget widget(svg.path());
         snapshot(widget, {8, 8});
         QTest::qWait(500);

@@ -60,13 +60,11 @@ private Q_SLOTS:
         group.icoLabel()->setFixedSize(40, 40);
         group.setIconSize({-1, 20});
 
-        QPixmap picture(4, 4);
-        picture.fill(Qt::red);
-        group.setIcon(picture);
+        group.setIcon(spottedPixmap());
         group.setIcoCornerVisible(true);
         const QImage icon = snapshot(*group.icoLabel());
         QCOMPARE(icon.size(), QSize(40, 40));
-        QCOMPARE(icon.pixelColor(1, 20), QColor(Qt::red));
+        QCOMPARE(icon.pixelColor(1, 20), QColor(Qt::darkCyan));
         QCOMPARE(icon.pixelColor(38, 2), QColor(235, 194, 50));
         group.setIcon("missing.png");
         QVERIFY(group.icoLabel()->Picture().isNull());

@@ -1,6 +1,5 @@
 #include "widgettest.h"
 
-#include <QPainterPath>
 #include <QSvgRenderer>
 #include <zclicklabel.h>
 
@@ -27,11 +26,8 @@ private Q_SLOTS:
         const QColor ground = has("round") ? QColor(20, 40, 200, 150) : Qt::transparent;
         const QString text = has("Hebrew") ? "שלום <b>" : "two words <b>&amp;</b>";
         const auto side = has("left") ? Qt::AlignLeft : Qt::AlignRight;
-        const SampleFile svg("Icon.SVG");
-        svg.writeSvg("#4080c0");
-        QPixmap stripes(4, 3);
-        stripes.fill(Qt::darkCyan);
-        QPainter(&stripes).fillRect(0, 1, 4, 1, Qt::magenta);
+        const SampleFile svg("Icon.SVG", sampleSvg("#4080c0"));
+        const QPixmap spots = spottedPixmap();
 
         ZClickLabel label(text);
         label.setAlignment(side | Qt::AlignTop);
@@ -45,7 +41,7 @@ private Q_SLOTS:
         label.setBgColor(ground);
         label.setRightCornerLabels(has("corner"));
         label.setDisabled(has("disabled"));
-        label.setPicture(has("picture") ? stripes : QPixmap());
+        label.setPicture(has("picture") ? spots : QPixmap());
         if (has("SVG"))
             label.setBgPicturePath(svg.path());
 
@@ -55,7 +51,7 @@ private Q_SLOTS:
             painter.drawRoundedRect(all, radius, radius);
             painter.setOpacity(has("disabled") ? 0.3 : 1.0);
             if (has("picture"))
-                painter.drawPixmap(all, stripes);
+                painter.drawPixmap(all, spots);
             if (has("SVG"))
                 QSvgRenderer(svg.path()).render(&painter, all);
 
@@ -75,8 +71,7 @@ private Q_SLOTS:
 
     void showsARewrittenSvg()
     {
-        const SampleFile svg("icon.svg");
-        svg.writeSvg("red");
+        const SampleFile svg("icon.svg", sampleSvg("red"));
         ZClickLabel label;
         label.setBgPicturePath(svg.path());
         label.resize(20, 10);
@@ -85,7 +80,7 @@ private Q_SLOTS:
             QCOMPARE(snapshot(label).pixelColor(1, 1), QColor(Qt::red));
         QCOMPARE(parses.count(), 1);
 
-        svg.writeSvg("blue");
+        svg.write(sampleSvg("blue"));
         QCOMPARE(snapshot(label).pixelColor(1, 1), QColor(Qt::blue));
         QFile::remove(svg.path());
         QCOMPARE(snapshot(label).pixelColor(1, 1), QColor(Qt::transparent));
@@ -101,9 +96,8 @@ private Q_SLOTS:
                                             {"black.svgz", zipped},
                                             {"black.SVG.gz", zipped},
                                             {"bad.bmp", "-"},
-                                            {"huge.png", {}}}) {
-            const SampleFile file(name);
-            content.isEmpty() ? file.writeHugePicture() : file.write(content);
+                                            {"huge.png", hugePicture()}}) {
+            const SampleFile file(name, content);
             ZClickLabel label;
             label.setBgPicturePath(file.path());
             const auto seen = file.path().contains("black") ? Qt::black : Qt::transparent;

@@ -1,6 +1,5 @@
 #include "widgettest.h"
 
-#include <QPainterPath>
 #include <QScreen>
 #include <QWindow>
 #include <loadingwidget.h>

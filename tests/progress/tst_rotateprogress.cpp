@@ -1,6 +1,5 @@
 #include "widgettest.h"
 
-#include <QPainterPath>
 #include <QVariantAnimation>
 #include <cmath>
 #include <rotateprogress.h>

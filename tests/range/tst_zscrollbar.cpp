@@ -1,6 +1,5 @@
 #include "widgettest.h"
 
-#include <QPainterPath>
 #include <QStyleFactory>
 #include <QStyleOptionSlider>
 #include <zscrollbar.h>

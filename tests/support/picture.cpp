@@ -1,23 +1,5 @@
 #include "picture.h"
 
-#include <QWidget>
-
-namespace {
-
-constexpr int Rounding = 1; // levels of 255
-
-int distance(QRgb a, QRgb b)
-{
-    const int channels[]
-        = {qAlpha(a) - qAlpha(b), qRed(a) - qRed(b), qGreen(a) - qGreen(b), qBlue(a) - qBlue(b)};
-    int largest = 0;
-    for (int channel : channels)
-        largest = qMax(largest, qAbs(channel));
-    return largest;
-}
-
-} // namespace
-
 QImage blankPicture(const QSize &size, double ratio)
 {
     QImage picture(size * ratio, QImage::Format_ARGB32_Premultiplied);
@@ -43,22 +25,42 @@ QImage snapshot(QWidget &widget, const QSize &size)
     return snapshot(widget);
 }
 
+QPixmap spottedPixmap(const QSize &size)
+{
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::darkCyan);
+    QPainter(&pixmap).fillRect(1, 1, 4, 2, Qt::yellow);
+    return pixmap;
+}
+
+QPainterPath roundedOutline(const QRectF &rect, double radius, const char *corners)
+{
+    const QPolygonF points(rect);
+    const QPointF onwards[] = {{1, 0}, {0, 1}, {-1, 0}, {0, -1}};
+    QPainterPath path;
+    for (int i = 0; i < 4; ++i) {
+        const double reach = corners[i] == 'r' ? radius : 0.0;
+        const QPointF start = points[i] - reach * onwards[(i + 3) % 4];
+        i > 0 ? path.lineTo(start) : path.moveTo(start);
+        path.quadTo(points[i], points[i] + reach * onwards[i]);
+    }
+    path.lineTo(path.elementAt(0));
+    return path;
+}
+
 QString difference(const QImage &actual, const QImage &expected)
 {
+    constexpr int Rounding = 1; // level of 255
     if (actual.size() != expected.size())
         return QStringLiteral("the sizes differ");
 
     for (int y = 0; y < actual.height(); ++y) {
-        for (int x = 0; x < actual.width(); ++x) {
-            // The stored values: what is hidden by alpha must not differ either way.
-            const auto a = reinterpret_cast<const QRgb *>(actual.constScanLine(y))[x];
-            const auto b = reinterpret_cast<const QRgb *>(expected.constScanLine(y))[x];
-            if (distance(a, b) > Rounding)
-                return QStringLiteral("pixel (%1, %2) is %3, not %4")
-                    .arg(x)
-                    .arg(y)
-                    .arg(a, 8, 16, QLatin1Char('0'))
-                    .arg(b, 8, 16, QLatin1Char('0'));
+        // The stored values: what is hidden by alpha must not differ either way.
+        const uchar *a = actual.constScanLine(y), *b = expected.constScanLine(y);
+        for (int x = 0; x < 4 * actual.width(); ++x) {
+            if (qAbs(a[x] - b[x]) > Rounding)
+                return QString::asprintf("byte %d of pixel (%d, %d) is %d, not %d", x % 4, x / 4, y,
+                                         a[x], b[x]);
         }
     }
     return {};

@@ -4,7 +4,7 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
-#include <QString>
+#include <QPainterPath>
 #include <QTest>
 #include <QWidget>
 
@@ -27,6 +27,15 @@ QImage reference(const QSize &size, Draw draw, double ratio = 1)
     draw(painter);
     return picture;
 }
+
+/*! A picture that shows how it was stretched. */
+QPixmap spottedPixmap(const QSize &size = {7, 5});
+
+/*!
+ * The outline of a rectangle whose corners are marked "r" where they are round, clockwise from the
+ * top left.
+ */
+QPainterPath roundedOutline(const QRectF &rect, double radius, const char *corners = "rrrr");
 
 /*! Where two pictures differ by more than rounding; empty when they do not. */
 QString difference(const QImage &actual, const QImage &expected);

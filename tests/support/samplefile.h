@@ -7,17 +7,11 @@
 class SampleFile
 {
 public:
-    explicit SampleFile(const QString &name)
-        : m_path(m_folder.filePath(name))
-    {
-    }
+    /*! Without \a content there is no file yet. */
+    explicit SampleFile(const QString &name, const QByteArray &content = QByteArray());
 
     QString path() const { return m_path; }
     void write(const QByteArray &content) const;
-    /*! A 20 × 10 SVG: an ellipse on a ground of \a color. */
-    void writeSvg(const char *color) const;
-    /*! A small file, but of more pixels than a picture is worth. */
-    void writeHugePicture() const;
     /*! A pipe instead of a file, which nobody writes to: opening it would wait for ever. */
     void makePipe() const;
 
@@ -25,5 +19,11 @@ private:
     QTemporaryDir m_folder;
     QString m_path;
 };
+
+/*! A 20 × 10 SVG: an ellipse on a ground of \a color. */
+QByteArray sampleSvg(const char *color);
+
+/*! Few bytes, but of more pixels than a picture is worth. */
+QByteArray hugePicture();
 
 #endif
