@@ -55,13 +55,11 @@ bool isBusy(QWidget &widget)
 
 } // namespace
 
-class TestAccessibility : public QObject
+class TestAccessibility : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { failOnWarnings(); }
-
     // A class of the application's that inherits one of these is told apart from it by no tool.
     void rolesTellWhatWidgetsAre()
     {

@@ -3,10 +3,6 @@
 #include <QHBoxLayout>
 #include <zbasedialog.h>
 
-using ZIRVOUI::ZBaseDialog;
-
-constexpr int Huge = std::numeric_limits<int>::max();
-
 struct Look
 {
     int type, radius, shadow;
@@ -14,13 +10,11 @@ struct Look
 };
 Q_DECLARE_METATYPE(Look)
 
-class TestZBaseDialog : public QObject
+class TestZBaseDialog : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { failOnWarnings(); }
-
     void paints_data()
     {
         QTest::addColumn<Look>("look");

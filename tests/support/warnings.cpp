@@ -2,27 +2,18 @@
 
 #include <QtTest>
 
-namespace {
+static QtMessageHandler previousHandler = nullptr;
 
-QtMessageHandler previousHandler = nullptr;
-
-// What the display prints and no widget can help.
-bool isAboutTheDisplay(const QString &message)
+static void failOnWarning(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    return message.contains(QLatin1String("propagateSizeHints"))
-        || message.contains(QLatin1String("XDG_RUNTIME_DIR"));
-}
-
-void failOnWarning(QtMsgType type, const QMessageLogContext &context, const QString &message)
-{
+    // What the display prints and no widget can help.
+    const QRegularExpression aboutTheDisplay("propagateSizeHints|XDG_RUNTIME_DIR");
     const bool isWarning = type == QtWarningMsg || type == QtCriticalMsg;
-    if (isWarning && !isAboutTheDisplay(message))
+    if (isWarning && !message.contains(aboutTheDisplay))
         QTest::qFail(qPrintable("Qt printed: " + message), __FILE__, __LINE__);
     else
         previousHandler(type, context, message);
 }
-
-} // namespace
 
 void failOnWarnings()
 {
