@@ -1,31 +1,12 @@
+#include "ui_everywidget.h" // includes the widgets that a form can hold
 #include "widgettest.h"
 
 #include <QAccessible>
 #include <circlebutton.h>
-#include <circleprogess.h>
-#include <circularloadingwidget.h>
-#include <commonlabelwidget.h>
-#include <hprogressanime.h>
 #include <imageswitchbutton.h>
-#include <lineedit.h>
-#include <loadingwidget.h>
-#include <maskwidget.h>
-#include <progressbar.h>
-#include <rotateprogress.h>
-#include <roundedbutton.h>
-#include <switchbutton.h>
-#include <zadjustfontlabel.h>
-#include <zbutton.h>
 #include <zgifwidget.h>
-#include <zimagebutton.h>
 #include <zloadingdialog.h>
-#include <zradiobutton.h>
-#include <zresizablelabel.h>
-#include <zscrollbar.h>
 #include <zscrolllabel.h>
-#include <zslider.h>
-#include <zsvgwidget.h>
-#include <ztextwidget.h>
 #include <ztoastdialog.h>
 
 namespace {
@@ -66,39 +47,33 @@ private Q_SLOTS:
         struct OwnIcon : ZSvgWidget
         {
         };
-        const QVector<QPair<QWidget *, QAccessible::Role>> roles{
-            {new CommonLabelWidget, QAccessible::Grouping},
-            {new ZAdjustFontLabel, QAccessible::StaticText},
-            {new ZResizableLabel, QAccessible::StaticText},
-            {new ZScrollLabel, QAccessible::StaticText},
-            {new ZTextWidget, QAccessible::Document},
-            {new MaskWidget, QAccessible::Graphic},
-            {new ZGifWidget(QString()), QAccessible::Animation},
-            {new OwnIcon, QAccessible::Graphic},
-            {new ZLoadingDialog(QString()), QAccessible::Dialog},
-            {new ZToastDialog(ToastPrompt, QString()), QAccessible::AlertMessage},
-            {new CircleButton(QString()), QAccessible::Button},
-            {new ImageSwitchButton(QString(), QString()), QAccessible::Button},
-            {new RoundedButton, QAccessible::Button},
-            {new SwitchButton, QAccessible::CheckBox},
-            {new ZButton, QAccessible::Button},
-            {new ZRadioButton, QAccessible::RadioButton},
-            {new CircleProgess, QAccessible::ProgressBar},
-            {new CircularLoadingWidget, QAccessible::ProgressBar},
-            {new HProgressAnime, QAccessible::ProgressBar},
-            {new LoadingWidget, QAccessible::ProgressBar},
-            {new ProgressBar, QAccessible::ProgressBar},
-            {new RotateProgress, QAccessible::ProgressBar},
-            {new ZScrollBar, QAccessible::ScrollBar},
-            {new ZSlider, QAccessible::Slider},
-            {new LineEdit, QAccessible::EditableText},
-        };
-        for (const auto &role : roles) {
-            const QScopedPointer<QWidget> widget(role.first);
-            QCOMPARE(interfaceOf(*widget).role(), role.second);
-            const auto children = widget->findChildren<QWidget *>();
-            for (QWidget *child : children)
-                QVERIFY(interfaceOf(*child).role() != QAccessible::Client);
+        const QVector<QPair<QAccessible::Role, QWidgetList>> widgetsOfRoles{
+            {QAccessible::Grouping, {new CommonLabelWidget}},
+            {QAccessible::StaticText,
+             {new ZAdjustFontLabel, new ZResizableLabel, new ZScrollLabel}},
+            {QAccessible::Document, {new ZTextWidget}},
+            {QAccessible::Graphic, {new MaskWidget, new OwnIcon}},
+            {QAccessible::Animation, {new ZGifWidget(QString())}},
+            {QAccessible::Dialog, {new ZLoadingDialog(QString())}},
+            {QAccessible::AlertMessage, {new ZToastDialog(ToastPrompt, QString())}},
+            {QAccessible::Button,
+             {new CircleButton(QString()), new ImageSwitchButton(QString(), QString()),
+              new RoundedButton, new ZButton}},
+            {QAccessible::CheckBox, {new SwitchButton}},
+            {QAccessible::RadioButton, {new ZRadioButton}},
+            {QAccessible::ProgressBar,
+             {new CircleProgess, new CircularLoadingWidget, new HProgressAnime, new LoadingWidget,
+              new ProgressBar, new RotateProgress}},
+            {QAccessible::ScrollBar, {new ZScrollBar}},
+            {QAccessible::Slider, {new ZSlider}},
+            {QAccessible::EditableText, {new LineEdit}}};
+        for (const auto &[role, widgets] : widgetsOfRoles) {
+            for (QWidget *widget : widgets) {
+                const QScopedPointer<QWidget> owner(widget);
+                QVERIFY2(interfaceOf(*widget).role() == role, widget->metaObject()->className());
+                for (QWidget *child : widget->findChildren<QWidget *>())
+                    QVERIFY(interfaceOf(*child).role() != QAccessible::Client);
+            }
         }
     }
 

@@ -6,10 +6,8 @@
 int main(int argc, char **argv)
 {
     QLibrary library(QStringLiteral(LIBRARY_FILE));
-    if (!library.load()) {
-        qCritical("%s", qPrintable(library.errorString()));
-        return EXIT_FAILURE;
-    }
+    if (!library.load())
+        qFatal("%s", qPrintable(library.errorString()));
     for (int i = 0; i < 2; ++i) {
         const QApplication application(argc, argv);
         library.unload();
