@@ -1,10 +1,9 @@
 #include "ui_everywidget.h"
-#include "warnings.h"
+#include "widgettest.h"
 
 #include <QDir>
 #include <QPluginLoader>
 #include <QUiLoader>
-#include <QtTest>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 
 namespace {
@@ -61,17 +60,11 @@ QStringList differingProperties(const QObject &one, const QObject &other)
 
 } // namespace
 
-class TestDesigner : public QObject
+class TestDesigner : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        failOnWarnings();
-        QVERIFY2(!offered().isEmpty(), qPrintable(QCoreApplication::libraryPaths().join(':')));
-    }
-
     void offersEveryWidgetThatAFormCanHold()
     {
         QStringList left
@@ -88,25 +81,18 @@ private Q_SLOTS:
         QCOMPARE(left, expected);
     }
 
-    void groupsAsTheSources_data() { addRowPerWidget(); }
-    void groupsAsTheSources()
-    {
-        QFETCH(QString, name);
-        const QString folder = offer(name)->group().section(" - ", 1).toLower();
-        const QString source = QFileInfo(offer(name)->includeFile()).baseName() + ".cpp";
-        QVERIFY(Sources.exists("src/" + folder + '/' + source));
-    }
-
     void showsInTheWidgetBox_data() { addRowPerWidget(); }
     void showsInTheWidgetBox()
     {
         QFETCH(QString, name);
-        const QSize size(22, 22);
-        QImage blank(size, QImage::Format_ARGB32);
-        blank.fill(Qt::transparent);
-        QVERIFY(!offer(name)->icon().availableSizes().isEmpty());
-        const QImage icon = offer(name)->icon().pixmap(size).toImage();
-        QVERIFY(icon.convertToFormat(QImage::Format_ARGB32) != blank);
+        // In a group for each folder of sources.
+        const QString folder = offer(name)->group().section(" - ", 1).toLower();
+        const QString source = QFileInfo(offer(name)->includeFile()).baseName() + ".cpp";
+        QVERIFY(Sources.exists("src/" + folder + '/' + source));
+        const QIcon icon = offer(name)->icon();
+        QVERIFY(!icon.availableSizes().isEmpty());
+        const auto draw = [&](QPainter &painter) { icon.paint(&painter, 0, 0, 22, 22); };
+        QVERIFY(reference({22, 22}, draw) != blankPicture({22, 22}));
         QVERIFY(!offer(name)->toolTip().isEmpty());
     }
 
