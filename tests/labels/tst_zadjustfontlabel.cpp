@@ -40,22 +40,12 @@ class TestZAdjustFontLabel : public WidgetTest
 private Q_SLOTS:
     void takesTheLargestSizeThatFits()
     {
-        const QString texts[] = {{},
-                                 "W",
-                                 "Donaudampfschifffahrtsgesellschaft",
-                                 "Warning\n\nThe door is open\n",
-                                 QString(9, ' '),
-                                 QString(9, QChar(0x200b)),
-                                 QString("many words ").repeated(12),
-                                 QString::fromUtf8("ab שלום עולם مرحبا 漢字 😀 \t e\u0301"),
-                                 QString("A long variant") + QChar(0x9c) + "short"};
-        for (const QString &text : texts) {
+        for (const QString &text : textsOfAllKinds()) {
             ZAdjustFontLabel label(text);
             for (const QSize size : {QSize(1, 1), QSize(7, 60), QSize(121, 33), QSize(160, 70)}) {
                 label.resize(size);
-                QVERIFY2(takesTheLargest(label, 1, 70), qPrintable(text));
-                QVERIFY2(takesTheLargest(label, 14, 15), qPrintable(text));
-                QVERIFY2(takesTheLargest(label, 9, 5), qPrintable(text));
+                for (const auto &[min, max] : {std::make_pair(1, 70), {14, 15}, {9, 5}})
+                    QVERIFY2(takesTheLargest(label, min, max), qPrintable(text));
             }
         }
     }
@@ -70,10 +60,8 @@ private Q_SLOTS:
         label.setFontWeight(QFont::Black);
         QVERIFY(takesTheLargest(label, 1, 60));
         label.resize(90, 33);
-        QVERIFY(takesTheLargest(label, 1, 60));
-        QVERIFY(takesTheLargest(label, 40, 60));
-        QVERIFY(takesTheLargest(label, 40, 41));
-        QVERIFY(takesTheLargest(label, 1, 7));
+        for (const auto &[min, max] : {std::make_pair(1, 60), {40, 60}, {40, 41}, {1, 7}})
+            QVERIFY(takesTheLargest(label, min, max));
     }
 
     void takesNoSizeThatIsNone()

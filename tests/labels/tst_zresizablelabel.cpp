@@ -29,15 +29,6 @@ class TestZResizableLabel : public WidgetTest
 private Q_SLOTS:
     void prefersTheFirstBoxThatHoldsIt()
     {
-        const QString texts[] = {{},
-                                 "   ",
-                                 "Yes",
-                                 "The door is not closed",
-                                 QString(300, 'W'),
-                                 QString("The door is open. ").repeated(60),
-                                 QString("a\nb\n\n").repeated(25),
-                                 QString(90, 'm') + QString(" and a few words").repeated(30),
-                                 QString("שלום עולם مرحبا 漢字かな 😀 e\u0301 ").repeated(12)};
         const QSize limits[][2]
             = {{{70, 30}, {1190, 768}}, {{70, 30}, {70, 9000}}, {{200, 0}, {60, 3000}},
                {{33, 17}, {90, 66}},    {{0, 0}, {4000, 9999}}, {{-5, -3}, {700, 200}}};
@@ -45,7 +36,7 @@ private Q_SLOTS:
             ZResizableLabel label;
             label.setMinSize(limit[0]);
             label.setMaxSize(limit[1]);
-            for (const QString &text : texts) {
+            for (const QString &text : textsOfAllKinds()) {
                 label.setText(text);
                 for (const int size : {13, 40}) {
                     QFont font = label.font();
