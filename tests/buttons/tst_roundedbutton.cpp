@@ -26,7 +26,7 @@ private Q_SLOTS:
                 button.setBorderWidth(border);
                 const QPen pen(image.isNull() ? line : QColor(Qt::black), border, Qt::SolidLine,
                                Qt::SquareCap, Qt::BevelJoin);
-                const auto draw = [&](QPainter &painter, const QRect &all) {
+                compareStates(button, {{100, 40}, {77, 51}}, [&](auto &painter, auto &all) {
                     const QColor up = button.isEnabled() ? color : QColor(102, 102, 102, 160);
                     const QRect inner = all.adjusted(inset, inset, -inset, -inset);
                     painter.setRenderHint(QPainter::SmoothPixmapTransform);
@@ -41,8 +41,7 @@ private Q_SLOTS:
                     painter.setClipping(true);
                     painter.setPen(Qt::white);
                     painter.drawText(all, Qt::AlignCenter, button.text());
-                };
-                compareStates(button, {{100, 40}, {77, 51}}, draw);
+                });
             }
         }
     }

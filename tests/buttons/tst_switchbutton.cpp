@@ -35,7 +35,7 @@ private Q_SLOTS:
                 takeWay(button);
                 button.setOffset(off ? 0 : 30);
                 button.setMargin(margin);
-                const auto draw = [&](QPainter &painter, const QRectF &all) {
+                compareStates(button, {{119, 68}, {90, 45}}, [&](auto &painter, const QRectF &all) {
                     const int middle = int(all.height()) / 2;
                     const double radius = all.height() / 2 - margin;
                     const QPointF center(button.offset() + margin + radius, middle);
@@ -54,8 +54,7 @@ private Q_SLOTS:
                     painter.drawText(all.adjusted(4, 0, -4, 0),
                                      Qt::AlignVCenter | (off ? Qt::AlignRight : Qt::AlignLeft),
                                      off ? "Off" : "On");
-                };
-                compareStates(button, {{119, 68}, {90, 45}}, draw);
+                });
             }
         }
     }
@@ -63,10 +62,10 @@ private Q_SLOTS:
     void changesItsCheckState()
     {
         // From a state to another, and the way of the knob.
-        for (const auto &[from, to, way] :
-             {std::make_tuple(0, 2, "0 > 51"), std::make_tuple(0, 1, "0 > 51"),
-              std::make_tuple(1, 2, ""), std::make_tuple(2, 1, ""), std::make_tuple(1, 0, "20 > 0"),
-              std::make_tuple(2, 0, "20 > 0"), std::make_tuple(2, 2, "")}) {
+        const std::tuple<int, int, QString> changes[]
+            = {{0, 2, "0 > 51"}, {0, 1, "0 > 51"}, {1, 2, ""}, {2, 1, ""},
+               {1, 0, "20 > 0"}, {2, 0, "20 > 0"}, {2, 2, ""}};
+        for (const auto &[from, to, way] : changes) {
             SwitchButton button;
             button.setCheckState(Qt::CheckState(from));
             takeWay(button);
@@ -74,7 +73,7 @@ private Q_SLOTS:
             QSignalSpy states(&button, &SwitchButton::stateChanged);
             QSignalSpy toggles(&button, &SwitchButton::toggled);
             button.setCheckState(Qt::CheckState(to));
-            QCOMPARE(takeWay(button), QString(way));
+            QCOMPARE(takeWay(button), way);
             QCOMPARE(button.isChecked(), to != 0);
             QCOMPARE(toggles.count(), 0);
             QCOMPARE(states, from == to ? QList<QVariantList>() : QList<QVariantList>{{to}});

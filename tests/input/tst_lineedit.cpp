@@ -49,6 +49,7 @@ private Q_SLOTS:
 
     void tellsWhoHasTheFocus()
     {
+        QString log;
         QWidget form;
         QLineEdit stock(&form);
         LineEdit first(&form), second(&form);
@@ -56,10 +57,12 @@ private Q_SLOTS:
         second.move(0, 80);
         for (LineEdit *field : {&first, &second}) {
             field->setObjectName(field == &first ? "1" : "2");
-            connect(field, SIGNAL(signal_focusIn(QWidget *)), SLOT(noteIn(QWidget *)),
-                    Qt::QueuedConnection);
-            connect(field, &LineEdit::signal_focusOut, this, &TestLineEdit::noteOut,
-                    Qt::QueuedConnection);
+            const auto note = [&](auto signal, const char *what) {
+                const auto slot = [&log, what](QWidget *who) { log += what + who->objectName(); };
+                connect(field, signal, &form, slot, Qt::QueuedConnection);
+            };
+            note(&LineEdit::signal_focusIn, " in ");
+            note(&LineEdit::signal_focusOut, " out ");
         }
         form.show();
         form.activateWindow();
@@ -76,7 +79,7 @@ private Q_SLOTS:
         QCOMPARE(method.inputItemRectangle(), QRectF(second.rect()));
         stock.setFocus(Qt::PopupFocusReason);
         QCoreApplication::processEvents();
-        QCOMPARE(m_log, QString("in 1, out 1, in 2, out 2, "));
+        QCOMPARE(log, QString(" in 1 out 1 in 2 out 2"));
     }
 
     void mayBeDeletedInItsSlots()
@@ -127,13 +130,6 @@ private Q_SLOTS:
         edit.fixUp();
         QCOMPARE(edit.text(), QString("7"));
     }
-
-public Q_SLOTS:
-    void noteIn(QWidget *edit) { m_log += "in " + edit->objectName() + ", "; }
-    void noteOut(QWidget *edit) { m_log += "out " + edit->objectName() + ", "; }
-
-private:
-    QString m_log;
 };
 
 QTEST_MAIN(TestLineEdit)

@@ -92,12 +92,11 @@ private Q_SLOTS:
         label.run(width - 27);
         QCOMPARE(label.shows({20 - width, 92}, 15), QString());
         label.setSpacing(31);
-        label.run(51);
-        QCOMPARE(label.shows({-31 - width, 0}, 15), QString());
-        label.run(1);
-        QCOMPARE(label.shows({0}, 15), QString());
-        label.run(-5, 2);
-        QCOMPARE(label.shows({10}, 15), QString());
+        // The step, and where the text then starts.
+        for (const auto &[step, x] : {std::make_pair(51, -31 - width), {1, 0}, {-10, 10}}) {
+            label.run(step);
+            QCOMPARE(label.shows({x, x + width + 31}, 15), QString());
+        }
     }
 
     void runsUpwards()

@@ -66,25 +66,22 @@ private Q_SLOTS:
     void darkensUnderThePointer_data()
     {
         QTest::addColumn<QString>("style");
-        QTest::addColumn<QString>("sheet");
-        for (const QString &style : QStyleFactory::keys())
-            QTest::newRow(qPrintable(style)) << style << QString();
-        const QString sheet(
-            "QScrollBar { background: red } QScrollBar::handle { min-height: 40px }");
-        QTest::newRow("style sheet") << QString("Fusion") << sheet;
+        for (const QString &style : QStyleFactory::keys() + QStringList("style sheet"))
+            QTest::newRow(qPrintable(style)) << style;
     }
 
     void darkensUnderThePointer()
     {
         QFETCH(QString, style);
-        QFETCH(QString, sheet);
+        const QString sheet = "QScrollBar { background: red }"
+                              "QScrollBar::handle { min-height: 40px }";
         const QScopedPointer<QStyle> look(QStyleFactory::create(style));
         const QColor track(0, 0, 255, 90), rests("#717582");
         const QColor hovered = rests.darker(120), pressed = hovered.darker(140);
         for (const QSize size : {QSize(220, 21), QSize(20, 221)}) {
             Bar bar(size.width() > size.height() ? Qt::Horizontal : Qt::Vertical);
             bar.setStyle(look.data());
-            bar.setStyleSheet(sheet);
+            bar.setStyleSheet(look ? QString() : sheet);
             bar.ensurePolished();
             bar.resize(size);
             bar.setSliderColor(rests);

@@ -44,14 +44,13 @@ bool mayBeDeletedIn(Signal signal, Widget *widget, Qt::MouseButton button = Qt::
     QObject::connect(widget, signal, &parent, [guard] { delete guard.data(); });
 
     // Not through the window, which sends what a right press left over a request for a menu.
+    const QPoint position(10, widget->height() / 2);
     for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        const QPoint position(10, widget->height() / 2);
         QMouseEvent event(type, position, button, button, Qt::NoModifier);
-        QCoreApplication::sendEvent(widget, &event);
-        if (!guard)
-            return true;
+        if (guard)
+            QCoreApplication::sendEvent(guard, &event);
     }
-    return false;
+    return !guard;
 }
 
 #endif
