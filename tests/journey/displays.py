@@ -3,8 +3,8 @@
 Each is started in a folder for its files and offers the same: press(), move() and release() in the
 pixels of the layout, and capture(), a picture of what the display shows.
 """
+import glob
 import os
-import signal
 import subprocess
 import time
 
@@ -16,35 +16,40 @@ class Trouble(Exception):
     """What cannot go on, told in words."""
 
 
-def await_that(condition, what, seconds=PATIENCE, pause=0.05):
+def await_that(condition, what):
     """Returns the first value of the condition that is true."""
-    deadline = time.monotonic() + seconds
+    deadline = time.monotonic() + PATIENCE
     while True:
         value = condition()
         if value:
             return value
         if time.monotonic() > deadline:
             raise Trouble(f"in vain awaited: {what}")
-        time.sleep(pause)
+        time.sleep(0.05)
 
 
 class Display:
-    def __init__(self, folder, scale):
+    def __init__(self, folder, logs, scale):
         self.folder = folder
+        self.logs = logs
         self.scale = scale
         self.server = None
 
     def path(self, name):
         return os.path.join(self.folder, name)
 
-    def start_server(self, command, environment=None, **options):
-        log = open(self.path("server.log"), "w")
-        self.server = subprocess.Popen(command, stderr=log, cwd=self.folder,
-                                       env={**os.environ, **(environment or {})}, **options)
+    def started(self, log, command, environment, **options):
+        with open(os.path.join(self.logs, log), "a") as file:
+            return subprocess.Popen(command, stderr=file, env={**os.environ, **environment},
+                                    **options)
+
+    def run(self, *command):
+        subprocess.run(command, check=True, cwd=self.folder,
+                       env={**os.environ, **self.environment})
 
     def stop(self):
         if self.server:
-            self.server.send_signal(signal.SIGTERM)
+            self.server.terminate()
             self.server.wait(PATIENCE)
 
 
@@ -53,19 +58,14 @@ class X11(Display):
 
     def start(self):
         width, height = (length * self.scale for length in SIZE)
-        numbers, ours = os.pipe()
-        self.start_server(["Xvfb", "-displayfd", str(ours), "-nolisten", "tcp",
-                           "-screen", "0", f"{width}x{height}x24"], pass_fds=[ours])
-        os.close(ours)
-        with os.fdopen(numbers) as number:
-            self.name = ":" + number.readline().strip()
-        if self.name == ":":
+        self.server = self.started(
+            "server.log", ["Xvfb", "-displayfd", "1", "-nolisten", "tcp",
+                           "-screen", "0", f"{width}x{height}x24"], {}, stdout=subprocess.PIPE)
+        number = self.server.stdout.readline().decode().strip()
+        if not number:
             raise Trouble("Xvfb does not start: see server.log")
-        self.environment = {"QT_QPA_PLATFORM": "xcb", "DISPLAY": self.name,
+        self.environment = {"QT_QPA_PLATFORM": "xcb", "DISPLAY": ":" + number,
                             "QT_SCALE_FACTOR": str(self.scale)}
-
-    def run(self, *command):
-        subprocess.run(command, check=True, env={**os.environ, **self.environment})
 
     def move(self, x, y):
         self.run("xdotool", "mousemove", str(x * self.scale), str(y * self.scale))
@@ -95,7 +95,8 @@ class Wayland(Display):
         self.environment = {"QT_QPA_PLATFORM": "wayland", "WAYLAND_DISPLAY": self.socket,
                             "XDG_RUNTIME_DIR": self.folder}
         width, height = SIZE
-        self.start_server(
+        self.server = self.started(
+            "server.log",
             ["weston", "--config=" + self.path("weston.ini"), "--backend=headless-backend.so",
              "--use-pixman", "--shell=desktop-shell.so", "--debug", f"--width={width}",
              f"--height={height}", f"--scale={self.scale}", "--socket=" + self.socket,
@@ -114,13 +115,9 @@ class Wayland(Display):
         self.finger.write("up\n")
 
     def capture(self, path):
-        shots = self.path("shots")
-        os.makedirs(shots, exist_ok=True)
-        subprocess.run(["weston-screenshooter"], check=True, cwd=shots,
-                       env={**os.environ, **self.environment})
-        (shot,) = os.listdir(shots)
-        shot = os.path.join(shots, shot)
-        subprocess.run(["convert", shot, "-depth", "8", path], check=True)
+        self.run("weston-screenshooter")
+        (shot,) = glob.glob(self.path("wayland-screenshot-*.png"))
+        self.run("convert", shot, "-depth", "8", path)
         os.remove(shot)
 
 

@@ -28,9 +28,8 @@ def expect(what, holds):
         raise Trouble(what)
 
 
-class Journey:
-    def __init__(self, panel):
-        self.panel = panel
+class Journey(Panel):
+    """A user's way through the panel, step by step."""
 
     def steps(self):
         return [self.starts, self.refuses_a_gateway, self.saves_the_network,
@@ -42,155 +41,144 @@ class Journey:
     # ---- what several steps see
 
     def share(self, picture, name, color):
-        return picture.share(self.panel.area(self.panel.await_place(name)), color)
+        return picture.share(self.area(self.await_place(name)), color)
 
-    def has_ground(self, theme):
-        area = self.panel.area(BARE)
-        return lambda picture: picture.share(area, theme["ground"], 0) == 1
+    def await_ground(self, what, theme):
+        area = self.area(BARE)
+        self.await_sight(what, lambda picture: picture.share(area, theme["ground"], 0) == 1)
 
-    def await_toast(self, action, color, what):
+    def await_toast(self, what, color, action):
         """The toast is seen with its icon, and afterwards what was there before it."""
-        panel = self.panel
-        before = panel.look()
+        before = self.look()
         action()
-        area = panel.area(panel.await_place("toast"))
-        panel.await_sight(what, lambda picture: picture.share(area, color) > ICON)
-        panel.await_no("toast")
-        panel.await_sight(what + " gone", lambda picture: picture.is_like(before, area))
+        area = self.area(self.await_place("toast"))
+        self.await_sight(what, lambda picture: picture.share(area, color) > ICON)
+        self.await_no("toast")
+        self.await_sight(what + " gone", lambda picture: picture.is_like(before, area))
 
-    def await_text(self, name, what, is_there, ink):
-        self.panel.await_sight(
-            what, lambda picture: (self.share(picture, name, ink) > TEXT) == is_there)
+    def await_text(self, what, name, is_there=True, ink=DARK["ink"]):
+        self.await_sight(what, lambda picture: (self.share(picture, name, ink) > TEXT) == is_there)
 
-    def clear(self, name, seconds):
+    def await_change(self, what, names, action):
+        """Each of the named places is seen to be another than before the action."""
+        areas = [self.area(self.await_place(name)) for name in names]
+        before = self.look()
+        action()
+        self.await_sight(what, lambda picture: all(
+            picture.pixels(area) != before.pixels(area) for area in areas))
+
+    def expect_kept(self, group, key, value):
+        kept = self.setting(group, key)
+        expect(f"{key} was to be {value}, is {kept}", kept == value)
+
+    def clear(self, name):
         """Empties a field by holding the key that deletes."""
-        self.panel.tap(name)
-        self.panel.hold("key delete", seconds)
-        self.await_text(name, f"{name} emptied", False, DARK["ink"])
+        self.tap(name)
+        self.hold("key delete", 2.2)
+        self.await_text(f"{name} emptied", name, False)
 
     # ---- the steps
 
     def starts(self):
-        self.panel.start()
-        self.panel.await_sight("dark at first", self.has_ground(DARK))
+        self.start()
+        self.await_ground("dark at first", DARK)
 
     def refuses_a_gateway(self):
-        panel = self.panel
-        self.await_text("address", "an address", True, DARK["ink"])
-        self.clear("address", 2.2)
-        panel.type("10.0.0.300")  # there is no such byte: the last digit is not taken
-        self.await_toast(lambda: panel.tap("apply"), RED, "gateway refused")
-        expect("nothing was to be saved", panel.setting("network", "address") is None)
+        self.await_text("an address", "address")
+        self.clear("address")
+        self.type("10.0.0.300")  # there is no such byte: the last digit is not taken
+        self.await_toast("gateway refused", RED, lambda: self.tap("apply"))
+        self.expect_kept("network", "address", None)
 
     def saves_the_network(self):
-        panel = self.panel
-        self.clear("gateway", 2.2)
-        panel.type("10.0.0.1")
-        tile = panel.await_place("page Display")
-        self.await_toast(lambda: self.apply_and_tap(tile), GREEN, "network saved")
-        expect("the page was changed behind the dialog", "apply" in panel.places())
-        for key, value in ("address", "10.0.0.30"), ("gateway", "10.0.0.1"):
-            expect(f"{key} was to be {value}, is {panel.setting('network', key)}",
-                   panel.setting("network", key) == value)
+        self.clear("gateway")
+        self.type("10.0.0.1")
+        tile = self.await_place("page Display")
+        self.await_toast("network saved", GREEN, lambda: self.apply_and_tap(tile))
+        expect("the page was changed behind the dialog", "apply" in self.places())
+        self.expect_kept("network", "address", "10.0.0.30")
+        self.expect_kept("network", "gateway", "10.0.0.1")
 
     def apply_and_tap(self, place):
         """Taps what is behind the dialog for waiting and its blur."""
-        panel = self.panel
-        area, bare = panel.area(place), panel.area(BARE)
-        before = panel.look()
-        panel.tap("apply")
-        panel.await_place("waiting")
-        panel.tap_at(place)
-        panel.await_sight("waiting", lambda picture: picture.part(area) != before.part(area)
-                          and picture.brightness(bare) < LIT * before.brightness(bare))
-        panel.await_no("waiting")
+        area, bare = self.area(place), self.area(BARE)
+        before = self.look()
+        self.tap("apply")
+        self.await_place("waiting")
+        self.tap_at(place)
+        self.await_sight("waiting", lambda picture: picture.pixels(area) != before.pixels(area)
+                         and picture.brightness(bare) < LIT * before.brightness(bare))
+        self.await_no("waiting")
 
     def asks_for_all_addresses(self):
-        self.panel.tap("mask", "key delete", "key delete")
-        self.await_toast(lambda: self.panel.tap("apply"), AMBER, "mask incomplete")
-        self.panel.type(".0")
+        self.tap("mask", "key delete", "key delete")
+        self.await_toast("mask incomplete", AMBER, lambda: self.tap("apply"))
+        self.type(".0")
 
     def disables_the_fields(self):
-        self.panel.tap("automatic")
-        self.await_text("address", "fields disabled", False, DARK["ink"])
-        self.panel.tap("automatic")
-        self.await_text("address", "fields enabled", True, DARK["ink"])
+        for what, is_there in ("fields disabled", False), ("fields enabled", True):
+            self.tap("automatic")
+            self.await_text(what, "address", is_there)
 
     def dims_the_screen(self):
-        panel = self.panel
-        panel.tap("page Display")
-        panel.await_place("brightness")
-        ground = panel.area(BARE)
-        bright = panel.look().brightness(ground)
-        panel.drag("brightness", (0.98, 0.5), (0.3, 0.5))
-        panel.await_sight("dimmed",
-                          lambda picture: picture.brightness(ground) < 0.5 * bright)
-        kept = int(panel.setting("display", "brightness"))
+        self.tap("page Display")
+        self.await_place("brightness")
+        ground = self.area(BARE)
+        bright = self.look().brightness(ground)
+        self.drag("brightness", (0.98, 0.5), (0.3, 0.5))
+        self.await_sight("dimmed", lambda picture: picture.brightness(ground) < 0.5 * bright)
+        kept = int(self.setting("display", "brightness"))
         expect(f"brightness was to be about 36, is {kept}", 32 <= kept <= 40)
-        panel.drag("brightness", (0.3, 0.5), (1, 0.5))
-        panel.await_sight("bright again", self.has_ground(DARK))
+        self.drag("brightness", (0.3, 0.5), (1, 0.5))
+        self.await_ground("bright again", DARK)
 
     def changes_the_theme(self):
-        self.panel.tap("theme Light")
-        self.panel.await_sight("light", self.has_ground(LIGHT))
-        expect("the theme was to be saved", self.panel.setting("display", "theme") == "Light")
+        self.tap("theme Light")
+        self.await_ground("light", LIGHT)
+        self.expect_kept("display", "theme", "Light")
 
     def blurs_the_wallpaper(self):
-        panel = self.panel
-        area = panel.area(panel.await_place("wallpaper"))
-        before = panel.look().part(area)
-        panel.drag("blur", (0.4, 0.5), (0.9, 0.5))
-        panel.await_sight("blurred", lambda picture: picture.part(area) != before)
-        expect("the blur was to be saved", int(panel.setting("display", "blur")) > 30)
+        self.await_change("blurred", ["wallpaper"],
+                          lambda: self.drag("blur", (0.4, 0.5), (0.9, 0.5)))
+        expect("the blur was to be saved", int(self.setting("display", "blur")) > 30)
 
     def shows_the_storage(self):
-        panel = self.panel
-        panel.tap("page Storage", "scan")
-        panel.await_sight("storage", lambda picture:
-                          0.01 < self.share(picture, "ring", LIGHT["accent"]) < 0.5)
+        self.tap("page Storage", "scan")
+        self.await_sight("storage", lambda picture:
+                         0.01 < self.share(picture, "ring", LIGHT["accent"]) < 0.5)
 
     def moves_on_its_own(self):
-        panel = self.panel
-        panel.tap("page About")
-        areas = [panel.area(panel.await_place(name)) for name in ("picture", "news")]
-        before = panel.look()
-        panel.await_sight("picture and news moving", lambda picture: all(
-            picture.part(area) != before.part(area) for area in areas))
+        self.tap("page About")
+        self.await_change("picture and news moving", ["picture", "news"], lambda: None)
 
     def scrolls(self):
-        panel = self.panel
-        area = panel.area(panel.await_place("facts"))
-        before = panel.look().part(area)
-        panel.drag("facts", (0.5, 0.8), (0.5, 0.2))
-        panel.await_sight("scrolled", lambda picture: picture.part(area) != before)
+        self.await_change("scrolled", ["facts"],
+                          lambda: self.drag("facts", (0.5, 0.8), (0.5, 0.2)))
 
     def locks(self):
-        panel = self.panel
-        panel.tap("lock")
-        self.await_text("entry", "locked", False, WHITE)
-        panel.type("123")
-        self.await_text("entry", "dots for digits", True, WHITE)
-        panel.hold("key delete", 1)
-        self.await_text("entry", "dots deleted by holding", False, WHITE)
+        self.tap("lock")
+        self.await_text("locked", "entry", False, WHITE)
+        self.type("123")
+        self.await_text("dots for digits", "entry", True, WHITE)
+        self.hold("key delete", 1)
+        self.await_text("dots deleted by holding", "entry", False, WHITE)
 
     def opens_for_its_number_alone(self):
-        panel = self.panel
-        self.await_toast(lambda: panel.type("12345678"), RED, "wrong number")
-        expect("a wrong number opens the panel", "entry" in panel.places())
-        panel.type("2580")
-        panel.await_no("entry")
-        panel.await_sight("opened", self.has_ground(LIGHT))
+        self.await_toast("wrong number", RED, lambda: self.type("12345678"))
+        expect("a wrong number opens the panel", "entry" in self.places())
+        self.type("2580")
+        self.await_no("entry")
+        self.await_ground("opened", LIGHT)
 
     def remembers(self):
-        self.panel.stop()
-        self.panel.start()
-        self.panel.await_sight("light after a restart", self.has_ground(LIGHT))
-        self.await_text("address", "address after a restart", True, LIGHT["ink"])
+        self.stop()
+        self.start()
+        self.await_ground("light after a restart", LIGHT)
+        self.await_text("address after a restart", "address", True, LIGHT["ink"])
 
 
-def travel(display, panel):
-    display.start()
-    journey = Journey(panel)
+def travel(journey):
+    journey.display.start()
     for step in journey.steps():
         name = step.__name__.replace("_", " ")
         try:
@@ -203,21 +191,17 @@ def travel(display, panel):
 
 
 def main(kind, scale, program, pictures):
-    folder = tempfile.mkdtemp()  # a socket's path has to be short
     shutil.rmtree(pictures, ignore_errors=True)
     os.makedirs(pictures)
-    display = DISPLAYS[kind](folder, int(scale))
-    panel = Panel(program, display, pictures)
-    try:
-        return travel(display, panel)
-    finally:
-        panel.stop()
-        panel.await_kept()
-        display.stop()
-        for log in "server.log", "panel.log":
-            if os.path.exists(display.path(log)):
-                shutil.copy(display.path(log), pictures)
-        shutil.rmtree(folder)
+    with tempfile.TemporaryDirectory() as folder:  # a socket's path has to be short
+        display = DISPLAYS[kind](folder, pictures, int(scale))
+        journey = Journey(program, display, pictures)
+        try:
+            return travel(journey)
+        finally:
+            journey.stop()
+            journey.await_kept()
+            display.stop()
 
 
 if __name__ == "__main__":

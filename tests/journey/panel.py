@@ -22,15 +22,14 @@ class Panel:
     # ---- the program
 
     def start(self):
-        display = self.display
-        environment = {**os.environ, **display.environment,
-                       "XDG_CONFIG_HOME": display.path("config"),
-                       "PLACES": display.path("places"), "QT_QPA_GENERIC_PLUGINS": "places",
+        places = self.display.path("places")
+        environment = {**self.display.environment, "PLACES": places,
+                       "XDG_CONFIG_HOME": self.display.path("config"),
+                       "QT_QPA_GENERIC_PLUGINS": "places",
                        "QT_PLUGIN_PATH": os.environ["PLACES_PLUGINS"]}
-        if os.path.exists(display.path("places")):
-            os.remove(display.path("places"))
-        self.log = open(display.path("panel.log"), "a")
-        self.process = subprocess.Popen([self.program], env=environment, stderr=self.log)
+        if os.path.exists(places):
+            os.remove(places)
+        self.process = self.display.started("panel.log", [self.program], environment)
         self.await_place("page Network")
 
     def stop(self):
@@ -90,14 +89,11 @@ class Panel:
     def drag(self, name, start, end):
         """Moves a finger over a control, between two points that are parts of its size."""
         x, y, width, height = self.await_place(name)
-        ways = [[x + width * (start[0] + (end[0] - start[0]) * step / STEPS),
-                 y + height * (start[1] + (end[1] - start[1]) * step / STEPS)]
-                for step in range(STEPS + 1)]
-        points = [(round(x), round(y)) for x, y in ways]
-        self.display.press(*points[0])
-        for point in points[1:]:
+        for step in range(STEPS + 1):
+            right, down = (a + (b - a) * step / STEPS for a, b in zip(start, end))
+            go = self.display.move if step else self.display.press
+            go(round(x + width * right), round(y + height * down))
             time.sleep(TAP / 4)
-            self.display.move(*point)
         time.sleep(TAP)
         self.display.release()
 
@@ -123,10 +119,7 @@ class Panel:
 
     def await_sight(self, what, condition):
         """Looks again and again until the condition holds for what is seen, and keeps that."""
-        def sight():
-            picture = self.look()
-            return picture if condition(picture) else None
         try:
-            return await_that(sight, what)
+            await_that(lambda: condition(self.look()), what)
         finally:
             self.keep(what)

@@ -1,12 +1,11 @@
 """Pictures of the screen, as binary PPM files."""
 
-
 class Picture:
     def __init__(self, path):
         with open(path, "rb") as file:
             header = file.readline() + file.readline() + file.readline()
             self.data = file.read()
-        magic, width, self.height, depth = header.split()
+        magic, width, _, depth = header.split()
         if (magic, depth) != (b"P6", b"255"):
             raise ValueError(f"{path} is no PPM file of 8 bits")
         self.width = int(width)
@@ -14,13 +13,9 @@ class Picture:
     def pixels(self, area):
         """The colours in an area (x, y, width, height) of the screen's pixels, row by row."""
         x, y, width, height = area
-        for row in range(y, y + height):
-            start = (row * self.width + x) * 3
-            line = self.data[start:start + width * 3]
-            yield from zip(line[::3], line[1::3], line[2::3])
-
-    def part(self, area):
-        return list(self.pixels(area))
+        starts = [(row * self.width + x) * 3 for row in range(y, y + height)]
+        lines = [self.data[start:start + width * 3] for start in starts]
+        return [pixel for line in lines for pixel in zip(line[::3], line[1::3], line[2::3])]
 
     def is_like(self, other, area, tolerance=2):
         """The same to the eye: a repaint of a part may round a blend to another level."""

@@ -11,11 +11,8 @@
 
 namespace {
 
-bool movesWidgets(QEvent::Type type)
-{
-    return type == QEvent::Move || type == QEvent::Resize || type == QEvent::Show
-        || type == QEvent::Hide || type == QEvent::ZOrderChange;
-}
+const QVector<QEvent::Type> MovesOfWidgets
+    = {QEvent::Move, QEvent::Resize, QEvent::Show, QEvent::Hide, QEvent::ZOrderChange};
 
 bool isReachable(const QWidget *widget)
 {
@@ -45,25 +42,22 @@ void writePlaces()
 }
 
 /*! Watches all widgets, and writes once when they have come to rest. */
-class Watch : public QObject
+class Watch : public QTimer
 {
 public:
     Watch()
     {
-        m_timer.setSingleShot(true);
-        connect(&m_timer, &QTimer::timeout, this, writePlaces);
+        setSingleShot(true);
+        connect(this, &QTimer::timeout, this, writePlaces);
         qApp->installEventFilter(this);
     }
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (watched->isWidgetType() && movesWidgets(event->type()))
-            m_timer.start();
+        if (watched->isWidgetType() && MovesOfWidgets.contains(event->type()))
+            start();
         return false;
     }
-
-private:
-    QTimer m_timer;
 };
 
 } // namespace

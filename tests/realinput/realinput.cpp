@@ -171,8 +171,7 @@ struct Window : QWidget
     {
         if (childAt(event->pos()))
             return;
-        const auto buttons = findChildren<QAbstractButton *>();
-        for (const QAbstractButton *button : buttons) {
+        for (const auto *button : findChildren<QAbstractButton *>()) {
             if (button->isDown())
                 report(button, "stays-down");
         }

@@ -39,8 +39,7 @@ static void touch(int type, double x, double y)
 
 static void obey(const char *line)
 {
-    double x = 0;
-    double y = 0;
+    double x = 0, y = 0;
     if (sscanf(line, "down %lf %lf", &x, &y) == 2)
         touch(WL_TOUCH_DOWN, x, y);
     else if (sscanf(line, "move %lf %lf", &x, &y) == 2)
