@@ -1,6 +1,7 @@
 #include "devicepixels_p.h"
 #include "keptshape_p.h"
 
+#include <QImage>
 #include <QPaintEngine>
 #include <cmath>
 
@@ -30,11 +31,15 @@ bool isPlain(const QPen &pen, double ratio)
             && !pen.isCosmetic() && pen.widthF() * ratio > 1);
 }
 
-// Printers and other painters of shapes are to get shapes.
-bool isRaster(const QPainter &painter)
+// Where Qt adds both a shape and pixels of it to the ground without rounding in between. Printers
+// and other painters of shapes are to get shapes.
+bool hasExactPixels(const QPainter &painter)
 {
     const QPaintEngine *engine = painter.paintEngine();
-    return engine && engine->type() == QPaintEngine::Raster;
+    const auto *image = engine ? dynamic_cast<const QImage *>(engine->paintDevice()) : nullptr;
+    return image
+        && (image->format() == QImage::Format_RGB32
+            || image->format() == QImage::Format_ARGB32_Premultiplied);
 }
 
 // Whole pixels that the shape stays within.
@@ -50,7 +55,7 @@ bool isKeepable(const QPainter &painter, const QRectF &bounds)
 {
     const double ratio = pixelRatio(painter);
     const double pixels = ratio * bounds.width() * ratio * bounds.height();
-    return isRaster(painter) && isPlain(painter.pen(), ratio)
+    return hasExactPixels(painter) && isPlain(painter.pen(), ratio)
         && painter.brush().style() <= Qt::SolidPattern && pixels >= 1 && pixels <= MostPixels
         && qAbs(bounds.x()) <= Farthest && qAbs(bounds.y()) <= Farthest
         && takesWholePixels(painter, bounds);
