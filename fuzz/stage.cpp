@@ -96,4 +96,7 @@ void Stage::clear()
     stageWindow->setEnabled(true);
     stageWindow->show();
     QApplication::setActiveWindow(stageWindow);
+    // Else Qt may give the focus to a new widget at the address of one that has died hidden.
+    stageWindow->setFocus();
+    stageWindow->clearFocus();
 }
