@@ -20,7 +20,9 @@ struct ZResizableLabelPrivate;
  *
  * Text of the format Qt::RichText is drawn as HTML in the application's font, anything else as it
  * stands in the label's font and alignment.  HTML is trusted: what it names is loaded, and its
- * layout takes as long as it takes, once for each new text or width.
+ * layout takes as long as it takes, once for each new text or width.  HTML that names files, of
+ * pictures or style sheets, is read and laid out at each paint, so a rewritten file shows at the
+ * next one.
  */
 class ZCOMMONWIDGETS_EXPORT ZResizableLabel : public QLabel
 {

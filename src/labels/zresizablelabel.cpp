@@ -12,6 +12,28 @@
 
 namespace ZIRVOUI {
 
+namespace {
+
+/*! A document that knows whether it asked for a file, of a picture or a style sheet. */
+class HtmlDocument : public QTextDocument
+{
+public:
+    bool dependsOnFiles() const { return m_dependsOnFiles; }
+
+protected:
+    QVariant loadResource(int type, const QUrl &name) override
+    {
+        if (name.scheme() != QLatin1String("data"))
+            m_dependsOnFiles = true;
+        return QTextDocument::loadResource(type, name);
+    }
+
+private:
+    bool m_dependsOnFiles = false;
+};
+
+} // namespace
+
 struct ZResizableLabelPrivate
 {
     QColor backgroundColor = Qt::transparent;
@@ -21,7 +43,7 @@ struct ZResizableLabelPrivate
 
     LaidOutText laidOutText;
     Kept<QSize, QString, QFont, QSize, QSize> hint;
-    Kept<std::unique_ptr<QTextDocument>, QString, int, QFont> document;
+    Kept<std::unique_ptr<HtmlDocument>, QString, int, QFont, QPalette> document;
 };
 
 namespace {
@@ -112,9 +134,9 @@ QSize fittingSize(const QSize &min, const QSize &max, const QFontMetrics &metric
     return max;
 }
 
-std::unique_ptr<QTextDocument> newDocument(const QString &html, int width)
+std::unique_ptr<HtmlDocument> newDocument(const QString &html, int width)
 {
-    auto document = std::make_unique<QTextDocument>();
+    auto document = std::make_unique<HtmlDocument>();
     document->setTextWidth(width);
     document->setHtml(html);
     document->setDocumentMargin(0);
@@ -184,10 +206,14 @@ void ZResizableLabel::paintRichText()
 {
     if (!testAttribute(Qt::WA_WState_InPaintEvent))
         return;
-    const auto &document = d->document.of({text(), width(), QGuiApplication::font()},
-                                          [this] { return newDocument(text(), width()); });
+    // Links, and colours that a style names by their role, are the application's.
+    const auto &document
+        = d->document.of({text(), width(), QGuiApplication::font(), QGuiApplication::palette()},
+                         [this] { return newDocument(text(), width()); });
     QPainter painter(this);
     document->drawContents(&painter, rect());
+    if (document->dependsOnFiles()) // which may be others at the next paint
+        d->document.forget();
 }
 
 void ZResizableLabel::paintEvent(QPaintEvent *)

@@ -20,6 +20,23 @@ QSize expectedHint(const ZResizableLabel &label, const QSize &min, const QSize &
     return max;
 }
 
+void drawRichText(QPainter &painter, const QRect &all, const QString &html)
+{
+    QTextDocument document;
+    document.setHtml(html);
+    document.setDocumentMargin(0);
+    document.setTextWidth(all.width());
+    document.drawContents(&painter, all);
+}
+
+void compareRichText(ZResizableLabel &label)
+{
+    comparePictures(label, {{120, 90}}, [&](QPainter &painter, const QRect &all) {
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        drawRichText(painter, all, label.text());
+    });
+}
+
 } // namespace
 
 class TestZResizableLabel : public WidgetTest
@@ -96,12 +113,8 @@ private Q_SLOTS:
                     label, {{120, 90}, {61, 141}}, [&](auto &painter, const QRect &all) {
                         painter.setRenderHint(QPainter::Antialiasing, false);
                         painter.fillRect(all, ground);
-                        QTextDocument document;
-                        document.setHtml(text);
-                        document.setDocumentMargin(0);
-                        document.setTextWidth(all.width());
                         if (format == Qt::RichText)
-                            return document.drawContents(&painter, all);
+                            return drawRichText(painter, all, text);
                         painter.setPen(Qt::red);
                         painter.drawText(all, int(label.alignment()) | Qt::TextWordWrap, text);
                     });
@@ -109,6 +122,46 @@ private Q_SLOTS:
         }
         label.paintNormalText(); // outside a paint
         label.paintRichText();
+    }
+
+    void drawsRichTextAnewWhenWhatItNamesChanged_data()
+    {
+        QTest::addColumn<QString>("html"); // %1 is the file
+        QTest::addColumn<QByteArrayList>("contents");
+        const QByteArrayList pictures
+            = {"P6 2 9 255 " + QByteArray(54, 'a'), "P6 9 2 255 " + QByteArray(54, 'z'), " "};
+        QTest::newRow("a picture") << "<img src='%1'>text" << pictures;
+        QTest::newRow("a background") << "<p style='background-image: url(%1)'>text" << pictures;
+        QTest::newRow("a style sheet") << "<style>@import url(%1);</style><p>text"
+                                       << QByteArrayList{" ", "p { color: red }", " "};
+    }
+
+    void drawsRichTextAnewWhenWhatItNamesChanged()
+    {
+        QFETCH(QString, html);
+        QFETCH(QByteArrayList, contents);
+        const SampleFile file("named");
+        ZResizableLabel label(html.arg(file.path()));
+        label.setTextFormat(Qt::RichText);
+        for (const QByteArray &content : qAsConst(contents)) {
+            file.write(content);
+            compareRichText(label);
+        }
+    }
+
+    void drawsRichTextInTheApplicationsColors()
+    {
+        const QPalette before = QGuiApplication::palette();
+        ZResizableLabel label("<a href='a'>link</a><p style='color: palette(highlight)'>text");
+        label.setTextFormat(Qt::RichText);
+        for (const QColor color : {Qt::red, Qt::green}) {
+            QPalette palette = before;
+            palette.setColor(QPalette::Link, color);
+            palette.setColor(QPalette::Highlight, color);
+            QApplication::setPalette(palette);
+            compareRichText(label);
+        }
+        QApplication::setPalette(before);
     }
 };
 
