@@ -13,7 +13,7 @@ namespace ZIRVOUI {
  * is not seen.  It asks a layout for no size: give it one.
  *
  * HTML is trusted: what it names is loaded, and its layout takes as long as it takes, once for each
- * new document or width.
+ * new document or width; at each paint if it holds pictures, whose resources may have changed.
  */
 class ZCOMMONWIDGETS_EXPORT ZTextWidget : public QWidget
 {
@@ -28,7 +28,8 @@ public:
     void setHtml(QString html);
     /*!
      * The document, which belongs to the widget.  Changes to it show at the next paint: call
-     * update().  After addResource() call its markContentsDirty() as well.
+     * update().  After those that it tells nobody of, like hiding a block, call its
+     * markContentsDirty() as well; addResource() needs none.
      */
     QTextDocument *textDocument();
     /*! Empties the document.  Does not repaint. */

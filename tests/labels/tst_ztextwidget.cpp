@@ -46,6 +46,31 @@ private Q_SLOTS:
         comparePictures(widget, {{91, 201}}, drawHtml);
     }
 
+    void laysPicturesOutWhenTheyChange()
+    {
+        const QString html = "<p>A <img src='memory:picture'> in text";
+        ZTextWidget widget;
+        widget.setHtml(html);
+        for (const QSize size : {QSize(), QSize(30, 9), QSize(9, 30)}) {
+            const auto addPicture = [&](QTextDocument *document) {
+                document->addResource(QTextDocument::ImageResource, QUrl("memory:picture"),
+                                      spottedPixmap(size));
+            };
+            if (size.isValid())
+                addPicture(widget.textDocument());
+            comparePictures(widget, {{120, 60}}, [&](QPainter &painter, const QRect &all) {
+                painter.setRenderHint(QPainter::Antialiasing, false);
+                QTextDocument document;
+                if (size.isValid())
+                    addPicture(&document);
+                document.setHtml(html);
+                document.setTextWidth(all.width());
+                document.drawContents(&painter, all);
+            });
+        }
+        QVERIFY(!repaints(widget, [] { QTest::qWait(100); }));
+    }
+
     void repaintsForNewHtmlAlone()
     {
         ZTextWidget widget;
