@@ -72,7 +72,8 @@ public:
     QSize getSvgSize(const QString &path) const;
 
     /*!
-     * The natural size of the SVG, whose file is read for it, or the size of the bitmap.
+     * The natural size of the SVG, whose file is read for it, or the size of the bitmap in its own
+     * pixels, also where a name like "icon@2x.png" promises more of them.
      *
      * Every paint scales the stored bitmap itself to the widget's size.  From then on this is its
      * size hint, and what was lost by making it small does not come back.

@@ -15,6 +15,13 @@ namespace {
 constexpr double DisabledOpacity = 0.3;
 constexpr int BlinkPeriod = 1000; // ms
 
+// The size hint counts these; a pixel ratio is given to what was painted alone.
+QPixmap inOwnPixels(QPixmap pixmap)
+{
+    pixmap.setDevicePixelRatio(1);
+    return pixmap;
+}
+
 void turn(QPainter &painter, const QPoint &center, double degrees)
 {
     painter.translate(center);
@@ -46,7 +53,7 @@ void ZSvgWidget::loadSvgImage(const QString &path)
     if (isSvgPath(path)) {
         m_svgPath = path;
     } else {
-        m_pixmap = affordableBitmap(path);
+        m_pixmap = inOwnPixels(affordableBitmap(path));
         m_svgPath.clear();
     }
     update();
@@ -54,7 +61,7 @@ void ZSvgWidget::loadSvgImage(const QString &path)
 
 void ZSvgWidget::setmPixmap(const QPixmap &pixmap)
 {
-    m_pixmap = pixmap;
+    m_pixmap = inOwnPixels(pixmap);
     update();
 }
 

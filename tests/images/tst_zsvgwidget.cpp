@@ -73,6 +73,20 @@ private Q_SLOTS:
         QCOMPARE(widget.sizeHint(), QSize(40, 20));
     }
 
+    void prefersTheBitmapsOwnPixels()
+    {
+        QPixmap pixmap = spottedPixmap({40, 20});
+        const SampleFile file("icon@2x.png");
+        QVERIFY(pixmap.save(file.path()));
+        ZSvgWidget widget(file.path());
+        QCOMPARE(widget.sizeHint(), pixmap.size());
+        COMPARE_PICTURES(snapshot(widget, {40, 20}), pixmap.toImage());
+
+        pixmap.setDevicePixelRatio(2);
+        widget.setmPixmap(pixmap);
+        QCOMPARE(widget.sizeHint(), pixmap.size());
+    }
+
     void showsTheIconLoadedLast()
     {
         const SampleFile svg("ICON.SVG", sampleSvg("red")), bitmap("icon.ppm", "P6 1 1 255 abc");
