@@ -30,7 +30,9 @@ void StretchedPicture::draw(QPainter &painter, const QRectF &target, const QPixm
     if (picture.isNull())
         return;
     const double ratio = pixelRatio(painter);
-    if (!target.isValid() || !bounds.contains(target) || !takesWholePixels(painter, target)
+    // What a bitmap shows depends on the pen, and what is under its clear bits.
+    if (picture.isQBitmap() || !target.isValid() || !bounds.contains(target)
+        || !takesWholePixels(painter, target)
         || !isAffordable(target.width() * ratio, target.height() * ratio)) {
         painter.drawPixmap(target, picture, QRectF());
         return;

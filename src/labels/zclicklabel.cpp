@@ -167,13 +167,13 @@ void ZClickLabel::paintEvent(QPaintEvent *)
     drawBackground(painter, rect(), m_radius, m_bgColor);
 
     painter.setOpacity(isEnabled() ? 1.0 : DisabledOpacity);
+    painter.setPen(palette().color(QPalette::WindowText)); // of a bitmap too
     m_stretchedPicture->draw(painter, rect(), m_picture, rect());
     if (!m_svgPath.isEmpty()) {
         m_svg->read(m_svgPath);
         m_svg->render(&painter, rect());
     }
 
-    painter.setPen(palette().color(QPalette::WindowText));
     const int flags = int(alignment()) | (wordWrap() ? m_textFlag : 0);
     m_laidOutText->draw(painter, rect(), flags, text());
     if (m_rightCorner)

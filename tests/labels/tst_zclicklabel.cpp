@@ -1,5 +1,6 @@
 #include "widgettest.h"
 
+#include <QBitmap>
 #include <QSvgRenderer>
 #include <zclicklabel.h>
 
@@ -14,7 +15,7 @@ private Q_SLOTS:
         for (const char *look :
              {"wrapped", "wrapped anywhere", "Hebrew", "Hebrew, left", "mirrored", "corner",
               "round, corner", "round, corner, picture, SVG",
-              "round, corner, picture, SVG, disabled"})
+              "round, corner, picture, SVG, disabled", "bitmap picture"})
             QTest::newRow(look) << look;
     }
 
@@ -27,7 +28,7 @@ private Q_SLOTS:
         const QString text = has("Hebrew") ? "שלום <b>" : "two words <b>&amp;</b>";
         const auto side = has("left") ? Qt::AlignLeft : Qt::AlignRight;
         const SampleFile svg("Icon.SVG", sampleSvg("#4080c0"));
-        const QPixmap spots = spottedPixmap();
+        const QPixmap spots = has("bitmap") ? QBitmap(spottedPixmap()) : spottedPixmap();
 
         ZClickLabel label(text);
         label.setAlignment(side | Qt::AlignTop);
@@ -50,13 +51,13 @@ private Q_SLOTS:
             painter.setBrush(ground);
             painter.drawRoundedRect(all, radius, radius);
             painter.setOpacity(has("disabled") ? 0.3 : 1.0);
+            painter.setPen(Qt::red);
             if (has("picture"))
                 painter.drawPixmap(all, spots);
             if (has("SVG"))
                 QSvgRenderer(svg.path()).render(&painter, all);
 
             const auto wrapping = has("anywhere") ? Qt::TextWrapAnywhere : Qt::TextWordWrap;
-            painter.setPen(Qt::red);
             painter.drawText(all, side | Qt::AlignTop | (has("wrapped") ? wrapping : 0), text);
 
             const int leg = all.height() == 25 ? 10 : 17;
