@@ -11,7 +11,7 @@ bool isSvgPath(const QString &path);
 
 /*!
  * A renderer for a file that may change between two paints: read() looks at the file every time
- * and parses it only when its bytes are not those parsed last.
+ * and parses it only when its bytes are not those parsed last, or refer to other files.
  */
 class SvgFile : public QSvgRenderer
 {
@@ -23,6 +23,7 @@ public:
 
 private:
     QByteArray m_parsed;
+    bool m_refersToFiles = false;
 };
 
 } // namespace ZIRVOUI

@@ -87,6 +87,29 @@ private Q_SLOTS:
         QCOMPARE(snapshot(label).pixelColor(1, 1), QColor(Qt::transparent));
     }
 
+    void showsFilesThatAnSvgNames()
+    {
+        const SampleFile svg("icon.svg"), picture("dot.ppm", "P6 1 1 255 abc"),
+            style("ground.css", "rect { fill: red }");
+        const QDir folder = QFileInfo(svg.path()).dir();
+        ZClickLabel label;
+        label.setBgPicturePath(svg.path());
+        const auto shown = [&] { return snapshot(label, {20, 10}).pixelColor(1, 1); };
+
+        svg.write("<svg width='20' height='10'><image width='20' height='10' xlink:href='"
+                  + folder.relativeFilePath(picture.path()).toUtf8() + "'/></svg>");
+        QCOMPARE(shown(), QColor('a', 'b', 'c'));
+        picture.write("P6 1 1 255 xyz");
+        QCOMPARE(shown(), QColor('x', 'y', 'z'));
+
+        svg.write("<?xml-stylesheet type=\"text/css\" href=\"" + style.path().toUtf8()
+                  + "\"?>"
+                    "<svg width='20' height='10'><rect width='20' height='10'/></svg>");
+        QCOMPARE(shown(), QColor(Qt::red));
+        style.write("rect { fill: blue }");
+        QCOMPARE(shown(), QColor(Qt::blue));
+    }
+
     void drawsNothingOfBrokenFiles()
     {
         const QByteArray zipped = QByteArray::fromBase64( // a black square
