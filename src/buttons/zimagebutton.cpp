@@ -12,7 +12,6 @@
 #include "widgetlength_p.h"
 #include "zsvgwidget.h"
 
-#include <QBuffer>
 #include <QPainter>
 #include <QStyleOptionButton>
 #include <QVBoxLayout>
@@ -30,6 +29,7 @@ public:
     void init();
     void drawBackground(QPainter &painter, const QRectF &rect) const;
     void drawBackgroundPicture(QPainter &painter, const QRectF &rect);
+    QPixmap readBackgroundPicture();
     void drawIcon(QPainter &painter, SvgFile &icon);
 
     QColor fontColor = Qt::white;
@@ -42,7 +42,7 @@ public:
     QString backgroundPicture;
     ZImageButton *q;
 
-    Kept<QPixmap, QByteArray> decodedBackground;
+    Kept<QPixmap, QString, QByteArray> decodedBackground;
     StretchedPicture stretchedBackground;
     Kept<QPixmap, QSize, double> renderedIcon;
     StretchedPicture stretchedIcon;
@@ -71,14 +71,19 @@ void ZImageButtonPrivate::drawBackgroundPicture(QPainter &painter, const QRectF 
 {
     if (backgroundPicture.isEmpty())
         return;
+    stretchedBackground.draw(painter, rect, readBackgroundPicture(), q->rect());
+}
+
+QPixmap ZImageButtonPrivate::readBackgroundPicture()
+{
     const QByteArray bytes = fileBytes(backgroundPicture);
-    const QPixmap &picture = decodedBackground.of(bytes, [&] {
-        QBuffer buffer;
-        buffer.setData(bytes);
-        QImageReader reader(&buffer);
+    if (bytes.isEmpty()) // perhaps of a name without its suffix, which Qt finds
+        return affordableBitmap(backgroundPicture);
+    return decodedBackground.of({backgroundPicture, bytes}, [&] {
+        // Not of the bytes: an SVG may name pictures from its folder.
+        QImageReader reader(backgroundPicture);
         return isAffordable(reader) ? QPixmap::fromImageReader(&reader) : QPixmap();
     });
-    stretchedBackground.draw(painter, rect, picture, q->rect());
 }
 
 void ZImageButtonPrivate::drawIcon(QPainter &painter, SvgFile &icon)

@@ -69,6 +69,17 @@ private Q_SLOTS:
         QCOMPARE(shown(), QColor('a', 'b', 'c'));
         file.write("P6 1 1 255 xyz");
         QCOMPARE(shown(), QColor('x', 'y', 'z'));
+        button.setBgPicture(file.path().chopped(4)); // Qt finds the suffix
+        QCOMPARE(shown(), QColor('x', 'y', 'z'));
+
+        const SampleFile svg("ground.svg");
+        const QDir folder = QFileInfo(svg.path()).dir();
+        svg.write("<svg width='4' height='4'><image width='4' height='4' xlink:href='"
+                  + folder.relativeFilePath(file.path()).toUtf8() + "'/></svg>");
+        button.setBgPicture(svg.path());
+        QCOMPARE(shown(), QColor('x', 'y', 'z'));
+
+        button.setBgPicture(file.path());
         file.write(hugePicture());
         QCOMPARE(shown(), QColor(Qt::white));
 
