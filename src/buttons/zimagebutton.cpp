@@ -91,6 +91,8 @@ void ZImageButtonPrivate::drawIcon(QPainter &painter, SvgFile &icon)
     const double ratio = pixelRatio(painter);
     if (q->size().isEmpty() || !isAffordable(q->width() * ratio, q->height() * ratio))
         return;
+    if (icon.animated())
+        renderedIcon.forget();
     const QPixmap &picture = renderedIcon.of({q->size(), ratio}, [&] {
         QPixmap rendered(q->size() * ratio);
         rendered.setDevicePixelRatio(ratio);

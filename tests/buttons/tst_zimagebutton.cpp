@@ -112,6 +112,18 @@ private Q_SLOTS:
         COMPARE_PICTURES(snapshot(button), blankPicture({20, 10}));
     }
 
+    void movesAnAnimatedIcon()
+    {
+        const SampleFile svg(
+            "icon.svg",
+            "<svg width='20' height='10'><rect width='9' height='9'>"
+            "<animateTransform attributeName='transform' type='translate' "
+            "from='0 0' to='9 0' dur='1s' repeatCount='indefinite'/></rect></svg>");
+        ZImageButton button({}, svg.path(), {});
+        const QImage before = snapshot(button, QSize(20, 10));
+        QTRY_VERIFY(snapshot(button) != before);
+    }
+
     void showsItsSignWhileChecked()
     {
         const SampleFile svg("sign.svg", sampleSvg("green"));
