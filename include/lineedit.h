@@ -12,8 +12,8 @@ namespace ZIRVOUI {
  * parent shows.  A click gives it the focus, the Tab key does not.
  *
  * It tells who gained and who lost the focus, so that one slot can serve all fields of a screen,
- * such as to show the on-screen keyboard.  A slot of these signals may delete the line edit, but
- * not while the application is inside its clearFocus(): there Qt goes on with it.
+ * such as to show the on-screen keyboard.  A slot of these signals calls deleteLater() rather than
+ * delete the line edit: QWidget goes on with it in setFocus() and clearFocus(), taps included.
  */
 class ZCOMMONWIDGETS_EXPORT LineEdit : public QLineEdit
 {

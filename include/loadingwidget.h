@@ -44,8 +44,9 @@ public:
      * Adds colours to the ring, at positions from 0, the head, counter-clockwise to 1, and gives
      * the head the first of them.  Shows at the next repaint.
      *
-     * A colour at a position that has one replaces it; other positions are left out.  An empty
-     * list changes nothing.  The colours need to live during the call only.
+     * A colour at a position that has one replaces it; other positions are left out, of which
+     * QGradient warns.  An empty list changes nothing.  The colours need to live during the call
+     * only.
      */
     void addGradientColor(const QVector<QPair<double, const QColor &>> &colors);
 
@@ -53,13 +54,15 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    friend class AccessibleSpinner;
+
     void turn();
     void tick();
     void drawRing(QPainter &painter, int radius);
     void drawHead(QPainter &painter, int radius);
 
     int m_angle = 0; // degrees
-    QTimer m_timer{this};
+    QTimer m_timer;
     QConicalGradient m_gradient = QConicalGradient(0, 0, 0);
     int m_width = 10; // pixels
     QColor m_headColor;

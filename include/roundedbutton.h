@@ -23,7 +23,8 @@ class StretchedPicture;
  * stays as it is.  An icon is not drawn, and neither a check nor the focus is seen.
  *
  * The button's own signals report every mouse button, and come before released() and clicked() of
- * the base class.  A slot of any signal may delete the button.
+ * the base class.  A slot of any signal may delete the button, but in a QButtonGroup not one of
+ * toggled(): there Qt goes on with it.
  */
 class ZCOMMONWIDGETS_EXPORT RoundedButton : public QPushButton
 {

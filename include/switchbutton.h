@@ -21,7 +21,8 @@ class SwitchButtonPrivate;
  *
  * The texts are white, in Arial of 10 points whatever the switch's font.  The knob keeps its place
  * when the switch is resized, until it slides the next time.  A disabled switch is drawn at 40 %.
- * Over the switch the pointer is a hand.  A slot of any signal may delete the switch.
+ * Over the switch the pointer is a hand.  A slot of any signal may delete the switch, but in
+ * a QButtonGroup not one of toggled(): there Qt goes on with it.
  */
 class ZCOMMONWIDGETS_EXPORT SwitchButton : public QAbstractButton
 {

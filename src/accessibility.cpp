@@ -18,9 +18,7 @@
 #include <QAccessibleWidget>
 #include <QCoreApplication>
 #include <QPointer>
-#include <QTimer>
 #include <algorithm>
-#include <functional>
 
 #ifndef QT_NO_ACCESSIBILITY
 
@@ -68,15 +66,18 @@ public:
 
     QAccessible::State state() const override
     {
-        const auto animations = object()->findChildren<QAbstractAnimation *>();
-        const auto timers = object()->findChildren<QTimer *>();
         QAccessible::State state = Shown::state();
-        state.busy = std::any_of(animations.begin(), animations.end(),
-                                 [](auto *animation) {
-                                     return animation->state() == QAbstractAnimation::Running;
-                                 })
-            || std::any_of(timers.begin(), timers.end(), std::mem_fn(&QTimer::isActive));
+        state.busy = isMoving();
         return state;
+    }
+
+protected:
+    virtual bool isMoving() const
+    {
+        const auto animations = object()->findChildren<QAbstractAnimation *>();
+        return std::any_of(animations.begin(), animations.end(), [](auto *animation) {
+            return animation->state() == QAbstractAnimation::Running;
+        });
     }
 };
 
@@ -233,12 +234,25 @@ struct Entry
     QAccessibleInterface *(*create)(QWidget *widget);
 };
 
+} // namespace
+
+class AccessibleSpinner : public BusyIndicator
+{
+public:
+    using BusyIndicator::BusyIndicator;
+
+protected:
+    bool isMoving() const override { return widgetOf<LoadingWidget>(*this)->m_timer.isActive(); }
+};
+
+namespace {
+
 const Entry entries[] = {
     {CircleProgess::staticMetaObject, newInterface<Ring>},
     {CircularLoadingWidget::staticMetaObject, newInterface<BusyIndicator>},
     {CommonLabelWidget::staticMetaObject, newShown<QAccessible::Grouping>},
     {HProgressAnime::staticMetaObject, newInterface<BusyIndicator>},
-    {LoadingWidget::staticMetaObject, newInterface<BusyIndicator>},
+    {LoadingWidget::staticMetaObject, newInterface<AccessibleSpinner>},
     {MaskWidget::staticMetaObject, newShown<QAccessible::Graphic>},
     {ProgressBar::staticMetaObject, newInterface<Bar>},
     {RotateProgress::staticMetaObject, newInterface<BusyIndicator>},

@@ -51,14 +51,22 @@ QRectF boundsOf(const QRectF &shape, const QPen &pen)
             QPointF(std::ceil(edges.right()), std::ceil(edges.bottom()))};
 }
 
+// Beyond the widget Qt cuts pixels off as it does shapes, but not while the painter that a widget
+// is rendered into has a clip.
+bool staysInside(const QPainter &painter, const QRectF &bounds)
+{
+    return !painter.hasClipping() || QRectF(painter.window()).contains(bounds);
+}
+
 bool isKeepable(const QPainter &painter, const QRectF &bounds)
 {
     const double ratio = pixelRatio(painter);
     const double pixels = ratio * bounds.width() * ratio * bounds.height();
     return hasExactPixels(painter) && isPlain(painter.pen(), ratio)
-        && painter.brush().style() <= Qt::SolidPattern && pixels >= 1 && pixels <= MostPixels
-        && qAbs(bounds.x()) <= Farthest && qAbs(bounds.y()) <= Farthest
-        && takesWholePixels(painter, bounds);
+        && painter.compositionMode() == QPainter::CompositionMode_SourceOver
+        && staysInside(painter, bounds) && painter.brush().style() <= Qt::SolidPattern
+        && pixels >= 1 && pixels <= MostPixels && qAbs(bounds.x()) <= Farthest
+        && qAbs(bounds.y()) <= Farthest && takesWholePixels(painter, bounds);
 }
 
 // Corners of other radii may reach out of the rectangle.

@@ -121,7 +121,8 @@ void CircleButton::reportLongPress()
 
 void CircleButton::repeatLongPress()
 {
-    if (isDown() && isEnabled() && isVisible())
+    const bool wasHidden = !isVisible() && testAttribute(Qt::WA_WState_Created);
+    if (isDown() && isEnabled() && !wasHidden)
         Q_EMIT signal_longPressed();
     else
         m_repeatTimer.stop();

@@ -1,15 +1,25 @@
 #include "flipchecked_p.h"
 
 #include <QAbstractButton>
-#include <QSignalBlocker>
+#include <QPointer>
 
 namespace ZIRVOUI {
 
 bool flipChecked(QAbstractButton &button)
 {
-    const QSignalBlocker blocker(button);
     const bool wasChecked = button.isChecked();
+    // A group follows the button's own signal with signals of its own.
+    if (button.group()) {
+        button.setChecked(!wasChecked);
+        return false;
+    }
+    const QPointer<QAbstractButton> guard(
+        &button); // against the slots of the one that it turns off
+    const bool wasBlocked = button.blockSignals(true);
     button.setChecked(!wasChecked);
+    if (!guard)
+        return false;
+    button.blockSignals(wasBlocked);
     return button.isChecked() != wasChecked;
 }
 

@@ -6,10 +6,10 @@ class QAbstractButton;
 namespace ZIRVOUI {
 
 /*!
- * Turns the checked flag of \a button over without a signal, and returns whether it did.
+ * Turns the checked flag of \a button over, and returns whether toggled() is left to the caller.
  *
- * The caller then emits toggled().  A slot of that signal may delete the button, while setChecked()
- * would still report it to assistive technology after the signal.
+ * A slot of that signal may delete the button, while setChecked() would still report it to
+ * assistive technology after the signal.  In a QButtonGroup setChecked() emits all signals.
  */
 bool flipChecked(QAbstractButton &button);
 

@@ -14,11 +14,13 @@ namespace {
 
 constexpr int CaptionSize = 10; // points
 
-// Fully resolved: nothing is left for the widget's font to fill in.
+// Leaves nothing but effects and rendering to the widget's font.
 QFont newCaptionFont()
 {
-    QFont font(QStringLiteral("Arial"), CaptionSize);
-    font.resolve(~0u);
+    QFont font(QStringLiteral("Arial"), CaptionSize, QFont::Normal, false);
+#if QT_VERSION >= QT_VERSION_CHECK(5, 13, 0)
+    font.setFamilies({font.family()});
+#endif
     return font;
 }
 
@@ -261,9 +263,11 @@ void SwitchButton::checkStateSet()
 
 void SwitchButton::nextCheckState()
 {
-    d->isFlipping = true;
+    const QPointer<SwitchButton> guard(this);
+    d->isFlipping = !signalsBlocked() && !group();
     const bool flipped = flipChecked(*this);
-    d->isFlipping = false;
+    if (guard)
+        d->isFlipping = false;
     if (flipped)
         Q_EMIT toggled(isChecked());
 }

@@ -18,7 +18,7 @@ constexpr int Spacing = 70; // pixels
 
 ZLoadingDialog::ZLoadingDialog(const QString &text, int time, QWidget *parent)
     : ZBaseDialog(parent)
-    , m_infoLabel(new ZClickLabel(this))
+    , m_infoLabel(nullptr)
     , m_time(time)
     , m_layout(new QVBoxLayout)
     , m_loadingWidget(new LoadingWidget(this))
@@ -32,6 +32,7 @@ ZLoadingDialog::ZLoadingDialog(const QString &text, int time, QWidget *parent)
     m_loadingWidget->setFixedSize(SpinnerSize);
     m_layout->addWidget(m_loadingWidget, 0, Qt::AlignCenter);
 
+    m_infoLabel = new ZClickLabel(this);
     m_infoLabel->setFontColor(Qt::white);
     setInfoText(text);
     m_infoLabel->setAlignment(Qt::AlignCenter);

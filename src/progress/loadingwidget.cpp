@@ -61,9 +61,8 @@ void LoadingWidget::addGradientColor(const QVector<QPair<double, const QColor &>
     if (colors.isEmpty())
         return;
 
-    // QGradient refuses other positions too, with a warning, but lets NaN pass.
     for (const auto &stop : colors) {
-        if (stop.first >= 0.0 && stop.first <= 1.0)
+        if (!qIsNaN(stop.first)) // which QGradient lets pass
             m_gradient.setColorAt(stop.first, stop.second);
     }
     m_headColor = colors.first().second;

@@ -154,7 +154,7 @@ void ZSlider::calcHandlePosition()
 void ZSlider::calcHandleValue(int x)
 {
     const double way = double(width()) - height();
-    if (way <= 0)
+    if (qFuzzyIsNull(way))
         return;
     const double range = double(maximum()) - minimum();
     const double center = double(x) - height() / 2;

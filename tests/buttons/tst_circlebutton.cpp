@@ -47,7 +47,6 @@ private Q_SLOTS:
     void reportsAfterItsDelayAndIntervals()
     {
         CircleButton button((QString()));
-        button.show(); // a hidden one does not repeat
         QSignalSpy reports(&button, &CircleButton::signal_longPressed);
         // Delay, interval, whether it repeats, and the reports in 100 ms.
         for (const auto &[delay, interval, repeats, count] :

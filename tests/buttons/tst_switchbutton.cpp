@@ -59,6 +59,20 @@ private Q_SLOTS:
         }
     }
 
+    void keepsItsKnobInside()
+    {
+        SwitchButton button;
+        button.setOffset(button.width() - 20);
+        for (int i = 0; i < 3; ++i) { // the second time on it is drawn from kept pixels
+            QImage picture(2 * button.size(), QImage::Format_ARGB32_Premultiplied);
+            picture.fill(Qt::transparent);
+            QPainter painter(&picture);
+            painter.setClipRect(picture.rect());
+            button.render(&painter, {}, {}, QWidget::DrawChildren);
+            QCOMPARE(picture.pixel(button.width(), button.height() / 2), 0U);
+        }
+    }
+
     void changesItsCheckState()
     {
         // From a state to another, and the way of the knob.
@@ -127,6 +141,11 @@ private Q_SLOTS:
         QButtonGroup group;
         group.addButton(&first);
         group.addButton(&second);
+        connect(&group, QOverload<QAbstractButton *, bool>::of(&QButtonGroup::buttonToggled),
+                [](QAbstractButton *button, bool checked) {
+                    const int state = static_cast<SwitchButton *>(button)->checkState();
+                    QCOMPARE(state, int(checked ? Qt::Checked : Qt::Unchecked));
+                });
         first.click();
         QSignalSpy states(&first, &SwitchButton::stateChanged);
         second.click();
@@ -135,6 +154,10 @@ private Q_SLOTS:
         QCOMPARE(second.checkState(), Qt::Checked);
         second.click();
         QVERIFY(second.isChecked());
+
+        second.blockSignals(true);
+        first.click();
+        QCOMPARE(second.checkState(), Qt::Unchecked);
     }
 
     void repaintsForItsLook()

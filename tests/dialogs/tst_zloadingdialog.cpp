@@ -23,6 +23,7 @@ private Q_SLOTS:
         QCOMPARE(label->y(), spinner.bottom() + 1 + 70);
         QCOMPARE(label->text(), Text);
         QVERIFY(label->wordWrap() && label->alignment() == Qt::AlignCenter);
+        QCOMPARE(dialog.findChildren<QWidget *>().last(), label);
 
         dialog.setSpacing(100);
         dialog.setInfoText({});

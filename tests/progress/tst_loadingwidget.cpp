@@ -41,11 +41,12 @@ private Q_SLOTS:
     {
         LoadingWidget spinner;
         spinner.stop();
+        QVERIFY(spinner.children().isEmpty());
         const auto greenAt = [&](int x, int y) {
             return snapshot(spinner, QSize(90, 90)).pixelColor(x, y).green();
         };
         spinner.addGradientColor({});
-        spinner.addGradientColor({{0.5, QColor(Qt::red)}, {7.0, Qt::green}, {qQNaN(), Qt::green}});
+        spinner.addGradientColor({{0.5, QColor(Qt::red)}, {qQNaN(), Qt::green}});
         QCOMPARE(greenAt(85, 45), 0); // the head
         QVERIFY(greenAt(5, 45) < 5); // half way round
         QVERIFY(qAbs(greenAt(45, 85) - 127) < 5); // three quarters, on the way to white

@@ -16,11 +16,13 @@ Q_DECLARE_METATYPE(Look)
 int snapped(const ZSlider &slider, int x)
 {
     using Int = __int128;
-    const Int way = slider.width() - slider.height();
+    const Int way = qAbs(slider.width() - slider.height());
     if (way == 0)
         return slider.value();
     const Int range = Int(slider.maximum()) - slider.minimum();
-    const Int exact = slider.minimum() * way + range * (Int(x) - slider.height() / 2);
+    const Int place = Int(x) - slider.height() / 2;
+    const bool isUpright = slider.width() < slider.height();
+    const Int exact = slider.minimum() * way + range * (isUpright ? -place : place);
     const Int whole = (exact < 0 ? -exact : exact) / way;
     const Int step = qMax(1, slider.singleStep());
     const Int value = (2 * whole + step) / (2 * step) * step;
@@ -97,7 +99,7 @@ private Q_SLOTS:
              {std::make_pair(0, 100), {-37, 41}, {-105, -5}, {7, 7}, {INT_MIN, INT_MAX}}) {
             ZSlider slider;
             slider.setRange(min, max);
-            for (const int width : {200, 333, 21, 20}) {
+            for (const int width : {200, 333, 21, 20, 7}) {
                 slider.resize(width, 20 + width % 2);
                 QVector<int> places = {INT_MIN, -100000, 100000, INT_MAX};
                 for (int x = -20; x < width + 20; ++x)
