@@ -2,23 +2,31 @@
 #include "devicepixels_p.h"
 #include "stretchedpicture_p.h"
 
-#include <QPainter>
-
 namespace ZIRVOUI {
 
 namespace {
 
-// Opaque if the picture is.
-QPixmap scaled(const QPixmap &picture, const QSizeF &size, double ratio, bool smoothly)
+// Opaque if the picture is. The clip is seen from the target's corner.
+QPixmap scaled(const QPixmap &picture, const QSizeF &size, double ratio,
+               QPainter::RenderHints hints, const QPainterPath &clip)
 {
+    const QRectF target(QPointF(), size);
     QPixmap result((size * ratio).toSize());
     result.setDevicePixelRatio(ratio);
     if (picture.hasAlphaChannel())
         result.fill(Qt::transparent);
     QPainter painter(&result);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, smoothly);
-    painter.drawPixmap(QRectF(QPointF(), size), picture, QRectF());
-    painter.end();
+    painter.setRenderHints(hints);
+    painter.drawPixmap(target, picture, QRectF());
+    if (clip.isEmpty())
+        return result;
+
+    // How Qt rounds depends on where a line of pixels begins, at the clip. The first pass mends
+    // what is wholly within the clip, the second what only shines through at its edge.
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.setClipPath(clip);
+    for (int pass = 0; pass < 2; ++pass)
+        painter.drawPixmap(target, picture, QRectF());
     return result;
 }
 
@@ -37,9 +45,13 @@ void StretchedPicture::draw(QPainter &painter, const QRectF &target, const QPixm
         painter.drawPixmap(target, picture, QRectF());
         return;
     }
-    const bool smoothly = painter.testRenderHint(QPainter::SmoothPixmapTransform);
-    const auto &kept = m_scaled.of({picture.cacheKey(), target.size(), ratio, smoothly},
-                                   [&] { return scaled(picture, target.size(), ratio, smoothly); });
+    const QPainter::RenderHints hints = painter.renderHints();
+    QPainterPath clip;
+    if (painter.hasClipping())
+        clip = painter.clipPath().translated(-target.topLeft());
+    const auto &kept = m_scaled.of({picture.cacheKey(), target.size(), ratio, hints, clip}, [&] {
+        return scaled(picture, target.size(), ratio, hints, clip);
+    });
     painter.drawPixmap(target.topLeft(), kept);
 }
 

@@ -3,9 +3,8 @@
 
 #include "kept_p.h"
 
-#include <QPixmap>
-
-class QPainter;
+#include <QPainter>
+#include <QPainterPath>
 
 namespace ZIRVOUI {
 
@@ -18,7 +17,7 @@ public:
               const QRectF &bounds);
 
 private:
-    Kept<QPixmap, qint64, QSizeF, double, bool> m_scaled;
+    Kept<QPixmap, qint64, QSizeF, double, QPainter::RenderHints, QPainterPath> m_scaled;
 };
 
 } // namespace ZIRVOUI

@@ -104,6 +104,31 @@ private Q_SLOTS:
         }
     }
 
+    void isScaledAlikeUnderAClip()
+    {
+        QPixmap stripes(116, 29);
+        stripes.fill(Qt::white);
+        for (int x = 0; x < stripes.width(); x += 3)
+            QPainter(&stripes).fillRect(x, 0, 1, stripes.height(), Qt::black);
+        MaskWidget mask;
+        mask.setDistance(0);
+        mask.setBlurRadius(0);
+        mask.setPixmap(stripes);
+        mask.resize(41, 60);
+
+        const auto cut = [&](auto draw) {
+            QPainterPath outline;
+            outline.addEllipse(mask.rect());
+            return reference(mask.size(), [&](QPainter &painter) {
+                painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+                painter.setClipPath(outline);
+                draw(painter);
+            });
+        };
+        COMPARE_PICTURES(cut([&](auto &p) { mask.render(&p, {}, {}, QWidget::DrawChildren); }),
+                         cut([&](auto &p) { p.drawPixmap(mask.rect(), stripes); }));
+    }
+
     void showsNothingOfNoPicture()
     {
         MaskWidget mask;
