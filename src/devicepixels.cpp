@@ -1,5 +1,6 @@
 #include "devicepixels_p.h"
 
+#include <QImage>
 #include <QPaintEngine>
 #include <QPainter>
 
@@ -20,6 +21,15 @@ bool takesWholePixels(const QPainter &painter, const QRectF &rect)
     const QRectF onDevice = toDevice.mapRect(rect);
     return toDevice.type() <= QTransform::TxScale && toDevice.m11() == ratio
         && toDevice.m22() == ratio && onDevice == onDevice.toRect();
+}
+
+bool addsExactPixels(const QPainter &painter)
+{
+    const QPaintEngine *engine = painter.paintEngine();
+    const auto *image = engine ? dynamic_cast<const QImage *>(engine->paintDevice()) : nullptr;
+    return image
+        && (image->format() == QImage::Format_RGB32
+            || image->format() == QImage::Format_ARGB32_Premultiplied);
 }
 
 } // namespace ZIRVOUI

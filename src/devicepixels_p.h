@@ -15,6 +15,12 @@ double pixelRatio(const QPainter &painter);
  */
 bool takesWholePixels(const QPainter &painter, const QRectF &rect);
 
+/*!
+ * Whether Qt adds both a drawing and pixels of it to what is under \a painter without rounding in
+ * between.  Printers and other painters of shapes do not, and are to get the drawing.
+ */
+bool addsExactPixels(const QPainter &painter);
+
 } // namespace ZIRVOUI
 
 #endif

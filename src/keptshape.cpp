@@ -1,8 +1,6 @@
 #include "devicepixels_p.h"
 #include "keptshape_p.h"
 
-#include <QImage>
-#include <QPaintEngine>
 #include <cmath>
 
 namespace ZIRVOUI {
@@ -31,17 +29,6 @@ bool isPlain(const QPen &pen, double ratio)
             && !pen.isCosmetic() && pen.widthF() * ratio > 1);
 }
 
-// Where Qt adds both a shape and pixels of it to the ground without rounding in between. Printers
-// and other painters of shapes are to get shapes.
-bool hasExactPixels(const QPainter &painter)
-{
-    const QPaintEngine *engine = painter.paintEngine();
-    const auto *image = engine ? dynamic_cast<const QImage *>(engine->paintDevice()) : nullptr;
-    return image
-        && (image->format() == QImage::Format_RGB32
-            || image->format() == QImage::Format_ARGB32_Premultiplied);
-}
-
 // Whole pixels that the shape stays within.
 QRectF boundsOf(const QRectF &shape, const QPen &pen)
 {
@@ -62,7 +49,7 @@ bool isKeepable(const QPainter &painter, const QRectF &bounds)
 {
     const double ratio = pixelRatio(painter);
     const double pixels = ratio * bounds.width() * ratio * bounds.height();
-    return hasExactPixels(painter) && isPlain(painter.pen(), ratio)
+    return addsExactPixels(painter) && isPlain(painter.pen(), ratio)
         && painter.compositionMode() == QPainter::CompositionMode_SourceOver
         && staysInside(painter, bounds) && painter.brush().style() <= Qt::SolidPattern
         && pixels >= 1 && pixels <= MostPixels && qAbs(bounds.x()) <= Farthest

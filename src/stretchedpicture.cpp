@@ -40,7 +40,7 @@ void StretchedPicture::draw(QPainter &painter, const QRectF &target, const QPixm
     const double ratio = pixelRatio(painter);
     // What a bitmap shows depends on the pen, and what is under its clear bits.
     if (picture.isQBitmap() || !target.isValid() || !bounds.contains(target)
-        || !takesWholePixels(painter, target)
+        || !takesWholePixels(painter, target) || !addsExactPixels(painter)
         || !isAffordable(target.width() * ratio, target.height() * ratio)) {
         painter.drawPixmap(target, picture, QRectF());
         return;
