@@ -1,6 +1,5 @@
 #include "widgettest.h"
 
-#include <QBitmap>
 #include <maskwidget.h>
 
 void qt_blurImage(QPainter *painter, QImage &image, qreal radius, bool quality, bool alphaOnly,
@@ -65,24 +64,6 @@ private Q_SLOTS:
                     painter.drawPixmap(all, picture);
                 });
             }
-        }
-    }
-
-    void drawsABitmapInThePenOfItsPainter()
-    {
-        MaskWidget mask;
-        mask.setDistance(0);
-        mask.setBlurRadius(0);
-        const QBitmap bitmap(somePicture());
-        mask.setPixmap(bitmap);
-        for (const Qt::GlobalColor color : {Qt::red, Qt::blue}) {
-            QPalette palette;
-            palette.setColor(mask.foregroundRole(), color);
-            mask.setPalette(palette);
-            comparePictures(mask, {{90, 50}, {33, 61}}, [&](auto &painter, const QRect &all) {
-                painter.setPen(color);
-                painter.drawPixmap(all, bitmap);
-            });
         }
     }
 

@@ -124,28 +124,22 @@ private Q_SLOTS:
         label.paintRichText();
     }
 
-    void drawsRichTextAnewWhenWhatItNamesChanged_data()
-    {
-        QTest::addColumn<QString>("html"); // %1 is the file
-        QTest::addColumn<QByteArrayList>("contents");
-        const QByteArrayList pictures
-            = {"P6 2 9 255 " + QByteArray(54, 'a'), "P6 9 2 255 " + QByteArray(54, 'z'), " "};
-        QTest::newRow("a picture") << "<img src='%1'>text" << pictures;
-        QTest::newRow("a background") << "<p style='background-image: url(%1)'>text" << pictures;
-        QTest::newRow("a style sheet") << "<style>@import url(%1);</style><p>text"
-                                       << QByteArrayList{" ", "p { color: red }", " "};
-    }
-
     void drawsRichTextAnewWhenWhatItNamesChanged()
     {
-        QFETCH(QString, html);
-        QFETCH(QByteArrayList, contents);
-        const SampleFile file("named");
-        ZResizableLabel label(html.arg(file.path()));
-        label.setTextFormat(Qt::RichText);
-        for (const QByteArray &content : qAsConst(contents)) {
-            file.write(content);
-            compareRichText(label);
+        const QByteArray upright = "P6 2 9 255 " + QByteArray(54, 'a'),
+                         flat = "P6 9 2 255 " + QByteArray(54, 'z');
+        const std::pair<QString, QByteArrayList> rows[]
+            = {{"<img src='%1'>text", {upright, flat, " "}},
+               {"<p style='background-image: url(%1)'>text", {upright, flat, " "}},
+               {"<style>@import url(%1);</style><p>text", {" ", "p { color: red }", " "}}};
+        for (const auto &[html, contents] : rows) {
+            const SampleFile file("named");
+            ZResizableLabel label(html.arg(file.path()));
+            label.setTextFormat(Qt::RichText);
+            for (const QByteArray &content : contents) {
+                file.write(content);
+                compareRichText(label);
+            }
         }
     }
 
