@@ -163,8 +163,8 @@ Row loadingDialog()
     const QVector<QRect> places = childPlaces(*sample, size);
     const auto bare = [=](QPainter &painter, const QSize &whole, int frame) {
         drawDialog(painter, whole);
-        drawLabel(painter, places[0], LoadingText);
-        drawSpinner(painter, places[1], frame);
+        drawSpinner(painter, places[0], frame);
+        drawLabel(painter, places[1], LoadingText);
     };
     const auto advance = [](QWidget &widget, int) {
         static_cast<ZLoadingDialog &>(widget).loadingWidget()->updateRotate();
