@@ -17,6 +17,9 @@ namespace {
 
 constexpr int DownLightness = 130; // percent
 
+// Beyond this a border is wider than any widget, and coordinates would soon leave int's range.
+constexpr int MaxInset = 1 << 29;
+
 void drawOutline(QPainter &painter, const QRectF &rect, double radius)
 {
     const int corner = int(radius);
@@ -163,7 +166,7 @@ void RoundedButton::drawBackground(QPainter &painter)
 
 void RoundedButton::drawBorder(QPainter &painter)
 {
-    const int inset = m_borderWidth / 2;
+    const int inset = qMin(m_borderWidth / 2, MaxInset);
     const QPen pen(m_borderColor, m_borderWidth, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin);
 
     painter.setPen(pen);

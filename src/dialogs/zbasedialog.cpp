@@ -177,7 +177,7 @@ void ZBaseDialog::drawShadow(QPainter &painter, const QRect &exposed)
     // Further in than the widget is long, the outlines are mirrored and lie outside it.  Only the
     // arcs of a negative radius come back, and reach it around a quarter of that radius.
     const int reach = qMax(this->width(), height()) + 1;
-    if (reach > LargestDevice && qAbs(m_radius) > LargestDevice)
+    if (reach > LargestDevice && radius > LargestDevice)
         return;
     const int arcs = qMax(0, -(m_radius / 4) - 1);
     drawOutlines(arcs + reach, qMax(arcs, reach + 1));
