@@ -86,16 +86,6 @@ void passTime(Trial &, Values &values)
     Stage::time().pass(time < 250 ? time : LongTimes[time % 4], MostTimers);
 }
 
-// A window of millions by millions of pixels has no paint engine, which Qt tells with a warning.
-void keepPaintable(Trial &trial)
-{
-    constexpr qint64 MostPixels = 4096 * 4096;
-    if (!trial.widget || !trial.widget->isWindow())
-        return;
-    if (qint64(trial.widget->width()) * trial.widget->height() > MostPixels)
-        trial.widget->setParent(Stage::window());
-}
-
 void repaint(Trial &trial, Values &)
 {
     trial.widget->repaint();
@@ -108,6 +98,7 @@ void settle(Trial &, Values &)
 
 void react(Trial &trial, Values &values)
 {
+    const QScopedValueRollback<Origin> origin(trial.origin, Origin::Stock);
     values.oneOf(reactions()).run(trial, values);
 }
 
@@ -141,6 +132,6 @@ void runSequence(Trial &trial, Values &values)
 {
     for (int i = 0; i < MostSteps && trial.widget && !values.isEmpty(); ++i) {
         values.oneOf(Steps)(trial, values);
-        keepPaintable(trial);
+        trial.keepPaintable();
     }
 }

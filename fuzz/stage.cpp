@@ -18,6 +18,7 @@ int leniencies = 0;
 // What no call of the library could prevent.
 const char *const ExpectedWarnings[] = {
     "This plugin does not support", // the offscreen display, of raising and hints
+    "OpenType support missing for ", // a family that does not know a script
     "QWidget::setWindowModified: ", // told when a window is created whose title has no place for it
     "QWidgetLineControl::setSelection: ", // a stock line edit, of positions far away
     "The largest allowed size is ", // a layout, of parts that are each as large as a widget can be

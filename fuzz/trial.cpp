@@ -13,6 +13,7 @@ void reparent(Trial &trial, Values &values)
     const bool isHome = trial.widget->parentWidget() == trial.home;
     QWidget *other = values.below(2) ? nullptr : Stage::window();
     trial.widget->setParent(isHome ? other : trial.home.data());
+    trial.keepPaintable();
     if (trial.widget)
         trial.widget->show();
 }
@@ -102,6 +103,17 @@ void Trial::callOwn(Values &values)
 {
     if (!subject.calls.empty())
         values.oneOf(subject.calls)(*widget, values);
+}
+
+void Trial::keepPaintable()
+{
+    constexpr qint64 MostPixels = 4096 * 4096;
+    if (!widget || !widget->isWindow())
+        return;
+    const QSize least = widget->minimumSizeHint(); // a layout enforces it later
+    const QSize size = widget->size().expandedTo(least);
+    if (!widget->size().isValid() || qint64(size.width()) * size.height() > MostPixels)
+        widget->setParent(Stage::window());
 }
 
 void Trial::arm(const Reaction &reaction, int signal, const Values &values)

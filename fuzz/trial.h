@@ -65,6 +65,11 @@ public:
      * pointer that causes them.
      */
     bool mayDieIn(int signal) const;
+    /*!
+     * Takes a window into the stage that is of millions by millions of pixels, or of less than none
+     * as size increments may leave it: it has no paint engine, which Qt tells with a warning.
+     */
+    void keepPaintable();
 
 private:
     class Spy;
