@@ -22,6 +22,7 @@ const char *const ExpectedWarnings[] = {
     "QWidget::setWindowModified: ", // told when a window is created whose title has no place for it
     "QWidgetLineControl::setSelection: ", // a stock line edit, of positions far away
     "The largest allowed size is ", // a layout, of parts that are each as large as a widget can be
+    "Negative sizes (", // a layout whose margins are negative, of a shadow's negative width
 };
 
 bool isExpected(const QMessageLogContext &context, const QString &text)
