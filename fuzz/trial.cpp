@@ -2,6 +2,7 @@
 
 #include "stage.h"
 
+#include <QLayout>
 #include <QMetaMethod>
 #include <QScopedValueRollback>
 
@@ -16,6 +17,15 @@ void reparent(Trial &trial, Values &values)
     trial.keepPaintable();
     if (trial.widget)
         trial.widget->show();
+}
+
+QSize leastSize(const QWidget &window)
+{
+    QSize least = window.minimumSizeHint();
+    // A layout learns what a layout inside it needs only later.
+    for (int i = 0; window.layout() && i < window.layout()->count(); ++i)
+        least = least.expandedTo(window.layout()->itemAt(i)->minimumSize());
+    return least;
 }
 
 void coverByDialog(Trial &trial, Values &)
@@ -110,8 +120,7 @@ void Trial::keepPaintable()
     constexpr qint64 MostPixels = 4096 * 4096;
     if (!widget || !widget->isWindow())
         return;
-    const QSize least = widget->minimumSizeHint(); // a layout enforces it later
-    const QSize size = widget->size().expandedTo(least);
+    const QSize size = widget->size().expandedTo(leastSize(*widget)); // a layout enforces it later
     if (!widget->size().isValid() || qint64(size.width()) * size.height() > MostPixels)
         widget->setParent(Stage::window());
 }
