@@ -13,8 +13,8 @@ bool flipChecked(QAbstractButton &button)
         button.setChecked(!wasChecked);
         return false;
     }
-    const QPointer<QAbstractButton> guard(
-        &button); // against the slots of the one that it turns off
+    // A slot of the button that this one turns off may delete it.
+    const QPointer<QAbstractButton> guard(&button);
     const bool wasBlocked = button.blockSignals(true);
     button.setChecked(!wasChecked);
     if (!guard)
